@@ -1,0 +1,60 @@
+#include "analysis/elements/element_list.h"
+
+namespace folioscope {
+
+void ElementList::ClearCollections()
+{
+    elements_.clear();
+    sequence_.clear();
+    pool_.clear();
+    sequenceStart_ = 0;
+}
+
+const Element* ElementList::Find(Key key) const
+{
+    for (const Element& element : elements_)
+        if (element.key == key) return &element;
+    return nullptr;
+}
+
+Element ElementList::PooledText(Key key, std::size_t from) const
+{
+    Element element;
+    element.key = key;
+    element.tag = Tag::Text;
+    element.size = static_cast<std::uint32_t>(pool_.size() - from);
+    element.at = from;
+    return element;
+}
+
+std::string_view ElementList::TextOf(const Element& element) const
+{
+    if (element.tag == Tag::Literal) return {element.literal, element.size};
+    if (element.tag == Tag::Text) return std::string_view(pool_).substr(element.at, element.size);
+    return {};
+}
+
+void ElementList::AddSequenceElement(const Element& element)
+{
+    if (SequenceCount() < kLongestSequence) sequence_.push_back(element);
+}
+
+void ElementList::PublishSequence(Key types, Key values)
+{
+    Element half;
+    half.tag = Tag::Sequence;
+    half.size = static_cast<std::uint32_t>(SequenceCount());
+    half.at = sequenceStart_;
+    half.key = types;
+    elements_.push_back(half);
+    half.key = values;
+    elements_.push_back(half);
+}
+
+std::span<const Element> ElementList::SequenceOf(const Element& element) const
+{
+    if (element.tag != Tag::Sequence) return {};
+    return std::span(sequence_).subspan(element.at, element.size);
+}
+
+}  // namespace folioscope

@@ -1,0 +1,54 @@
+#include "analysis/render/lines.h"
+
+#include <array>
+
+#include "analysis/render/words_common.h"
+
+namespace folioscope {
+
+namespace {
+
+constexpr auto kLineOf = [] {
+    std::array<std::uint16_t, static_cast<std::size_t>(Key::KeyCount)> index{};
+    for (std::size_t i = 0; i < std::size(kCommonLines); ++i) {
+        auto& place = index[static_cast<std::size_t>(kCommonLines[i].key)];
+        if (place != 0) throw "two lines for one key";
+        place = static_cast<std::uint16_t>(i + 1);
+    }
+    return index;
+}();
+
+struct ColorRow {
+    std::int32_t first, last;
+    Label names[6];
+};
+
+// clang-format off
+constexpr ColorRow kColorNames[] = {
+    {0,      0,      {L("Drawing default")}},
+    {1,      6,      {L("Blue"), L("Red"), L("Pink/Magenta"), L("Green"), L("Turquoise/Cyan"), L("Yellow")}},
+    {7,      8,      {L("White"), L("Black")}},
+    {9,      14,     {L("Dark blue"), L("Orange"), L("Purple"), L("Dark green"), L("Dark turquoise"), L("Mustard")}},
+    {15,     16,     {L("Gray"), L("Brown")}},
+    {0xFF00, 0xFF05, {L("Drawing default"), L("Blue"), L("Red"), L("Pink/Magenta"), L("Green"), L("Turquoise/Cyan")}},
+    {0xFF06, 0xFF08, {L("Yellow"), L("Device default (normally black)"), L("Color of paper")}},
+    {0xFFFF, 0xFFFF, {L("Default")}},
+};
+// clang-format on
+
+}  // namespace
+
+const LineRow* LineOf(Key key)
+{
+    const std::uint16_t row = kLineOf[static_cast<std::size_t>(key)];
+    return row == 0 ? nullptr : &kCommonLines[row - 1];
+}
+
+Label ColorName(std::int32_t value)
+{
+    for (const ColorRow& row : kColorNames)
+        if (value >= row.first && value <= row.last) return row.names[value - row.first];
+    return Label::None;
+}
+
+}  // namespace folioscope

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "analysis/elements/element_list.h"
+#include "analysis/render/lines.h"
+#include "analysis/render/node_sink.h"
+#include "analysis/render/property_text.h"
+#include "base/labels.h"
+#include "base/numbers.h"
+#include "base/settings.h"
+
+namespace folioscope {
+
+// The resolutions last seen, in units an inch. A size is shown with the one that passed last, in whichever field it
+// stood; they outlive the record.
+struct UnitState {
+    std::int16_t PageUnitsX = 1440, PageUnitsY = 1440;
+    std::int16_t ObjectUnitsX = 1440, ObjectUnitsY = 1440;
+};
+
+// Turns the Elements of a record into its property text, and tells the tree what concerns it.
+struct Renderer {
+    Renderer(Labels analysisLabels, const Settings& userSettings, NumberStyle numbers, NodeSink& nodes);
+
+    // Walks the Elements in order. Adds to `text`; the caller clears it between records.
+    void RenderStructuredField(const ElementList& elements);
+
+    // The three lines that head every record: name, start (SFStart counts from 1, the line from 0) and length in bytes.
+    void AppendHeadLines(std::string& out, std::string_view SFName, std::int32_t SFStart, std::int32_t SFLength) const;
+    // How many characters they have.
+    std::size_t HeadLinesLength(std::string_view SFName, std::int32_t SFStart, std::int32_t SFLength) const;
+
+    // For the lines ------------------------------------------------------------------------------------------------
+
+    std::string_view Say(Wording wording) const;
+    std::string_view TextOf(const Element& element) const { return list->TextOf(element); }
+    void AppendValue(std::string& out, const Element& element) const;  // a number without a picture, or a text
+    void AppendNumber(std::string& out, const Element& element, Picture picture) const;
+    std::string UnitsText(std::int32_t value, std::int16_t intUnits) const;
+
+    // Indentation, label and ": ". The caller writes the rest behind it and calls EndLine.
+    std::string& BeginLine(Wording label);
+    void EndLine();
+    void PutLine(Wording label, std::string_view value);
+    void PutUnknown(Wording label, std::string_view value) { PutFault(label, L("Unknown"), value); }
+    void PutInvalid(Wording label, std::string_view value) { PutFault(label, L("Invalid"), value); }
+    void RedLine(Wording label, Label fault, std::string_view value);
+
+    Labels labels;
+    const Settings& settings;
+    NumberStyle style;
+    NodeSink& sink;
+    PropertyText text;
+    std::string IndentText;  // tabs in front of each line
+    UnitState units;
+
+    // Of the record in hand.
+    const ElementList* list = nullptr;
+    std::string_view nodeText;
+    std::int32_t SFStart = 0, SFLength = 0;
+
+private:
+    void RenderElement(const Element& element);
+    void RenderWords(const LineRow& row, const Element& element);
+    void PutFault(Wording label, Label fault, std::string_view value);
+
+    std::size_t headWords_;  // characters of the head lines that are the same for all records
+};
+
+// Lines of their own shape.
+void RenderNodeText(Renderer&, const Element&);
+void RenderSFName(Renderer&, const Element&);
+void RenderSFStart(Renderer&, const Element&);
+void RenderSFLength(Renderer&, const Element&);
+void RenderName(Renderer&, const Element&);
+void RenderShowResName(Renderer&, const Element&);
+void RenderHexCode(Renderer&, const Element&);
+void RenderUnknown(Renderer&, const Element&);
+void RenderUnread(Renderer&, const Element&);
+void RenderBeginRepetition(Renderer&, const Element&);
+void RenderBeginRepetitionTRP(Renderer&, const Element&);
+void RenderBeginColor(Renderer&, const Element&);
+void RenderEndOfGroup(Renderer&, const Element&);
+
+}  // namespace folioscope

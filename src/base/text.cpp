@@ -1,0 +1,67 @@
+#include "base/text.h"
+
+namespace folioscope {
+
+void AppendUtf8(std::string& out, char32_t character)
+{
+    if ((character >= 0xD800 && character <= 0xDFFF) || character > 0x10FFFF) character = 0xFFFD;
+    const auto tail = [&](int shift) { out += char(0x80 | (character >> shift & 0x3F)); };
+    if (character < 0x80) {
+        out += char(character);
+    } else if (character < 0x800) {
+        out += char(0xC0 | character >> 6);
+        tail(0);
+    } else if (character < 0x10000) {
+        out += char(0xE0 | character >> 12);
+        tail(6), tail(0);
+    } else {
+        out += char(0xF0 | character >> 18);
+        tail(12), tail(6), tail(0);
+    }
+}
+
+std::size_t Utf8Step(char first)
+{
+    const auto byte = static_cast<unsigned char>(first);
+    return byte < 0xC0 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
+}
+
+std::size_t Utf16Length(std::string_view text)
+{
+    std::size_t units = 0;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        units += (byte & 0xC0) != 0x80;
+        units += byte >= 0xF0;
+    }
+    return units;
+}
+
+std::string_view TrimBlanks(std::string_view text)
+{
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+void ChangeString(std::string& text, std::string_view what, std::string_view with)
+{
+    if (const auto at = text.find(what); at != std::string::npos) text.replace(at, what.size(), with);
+}
+
+std::string OnOneLine(std::string_view text)
+{
+    std::string line;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte < 0x20)
+            AppendUtf8(line, 0x2400 + byte);
+        else if (byte == 0x7F)
+            AppendUtf8(line, 0x2421);
+        else
+            line += c;
+    }
+    return line;
+}
+
+}  // namespace folioscope

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace folioscope {
+
+// All text inside the program is UTF-8. Where a limit counts characters, a character is a UTF-16 unit.
+
+// Appends one character. Halves of surrogate pairs and values above U+10FFFF become U+FFFD.
+void AppendUtf8(std::string& out, char32_t character);
+
+// Bytes of the character that starts with this byte; 1 for a byte that starts none.
+std::size_t Utf8Step(char first);
+
+std::size_t Utf16Length(std::string_view text);
+
+// Takes blanks (U+0020 only) off both ends.
+std::string_view TrimBlanks(std::string_view text);
+
+// Replaces the first occurrence of `what`, which is how placeholders are filled.
+void ChangeString(std::string& text, std::string_view what, std::string_view with);
+
+// One line for a terminal or a list: control characters are shown as their pictures (U+2400 and on).
+std::string OnOneLine(std::string_view text);
+
+}  // namespace folioscope

@@ -1,0 +1,18 @@
+#include "document/document.h"
+
+namespace folioscope {
+
+Document::Document(const Settings& settings, NumberStyle numbers, MessageList& messages, RunHost& host,
+                   const DecodePorts& ports)
+    : settings_(settings), style_(std::move(numbers)), messages_(messages), host_(host)
+{
+    clsAFP_.SetPorts(ports);
+    const Labels analysis(settings_.AnalysisLanguage()), interface(settings_.InterfaceLanguage());
+    tree_ = std::make_unique<StructureTree>(settings_, analysis, interface, messages_,
+                                            static_cast<TreeListener&>(*this));
+    renderer_ = std::make_unique<Renderer>(analysis, settings_, style_, *tree_);
+}
+
+Document::~Document() = default;
+
+}  // namespace folioscope

@@ -1,0 +1,102 @@
+// What a node shows: the text that the run kept, and bodies that are read from the file when somebody asks.
+
+#include "analysis/decode/dispatch.h"
+#include "document/document.h"
+
+namespace folioscope {
+
+namespace {
+
+constexpr std::size_t kMostBodyBytes = 16u << 20;
+
+}  // namespace
+
+FileFailure Document::RedirectOpenAFPFileRandom()
+{
+    return clsAFP_.OpenAFPFileRandom();
+}
+
+void Document::RedirectCloseAFPFile()
+{
+    clsAFP_.CloseAFPFile();
+}
+
+std::int32_t Document::GetNodeContents_lngStart(std::uint32_t lngNodeCode) const
+{
+    const NodeRecord& node = tree_->Nodes()[lngNodeCode];
+    return node.folder ? 0 : node.lngStart;
+}
+
+std::int32_t Document::GetNodeContents_lngLength(std::uint32_t lngNodeCode) const
+{
+    return tree_->Nodes()[lngNodeCode].lngLength;
+}
+
+bool Document::GetNodeContents_bolUnread(std::uint32_t lngNodeCode) const
+{
+    return tree_->Nodes()[lngNodeCode].bolUnread;
+}
+
+// Reads the record again and makes its text, behind what the run kept of it. Its faults count the first time only.
+FileFailure Document::ReadBody(std::uint32_t node, std::string& body)
+{
+    const NodeRecord& record = tree_->Nodes()[node];
+    clsAFP_.List().ClearCollections();
+    if (const auto failure = clsAFP_.SetNextRecord(record.lngStart)) return failure;
+    clsAFP_.AnalyzeSpecificRecord();
+    tree_->Revisit(node, record.bolUnread);
+    tree_->Nodes()[node].bolUnread = false;
+
+    PropertyText& text = renderer_->text;
+    renderer_->IndentText.clear();
+    text.Clear();
+    text.Pass(renderer_->HeadLinesLength(Fields()[record.field].SFName, record.lngStart, record.lngLength));
+    body.clear();
+    tree_->AppendBody(body, node);
+    text.Append(body);
+    renderer_->RenderStructuredField(clsAFP_.List());
+    body = text.Text().substr(0, text.Text().find_last_not_of(' ') + 1);
+    return {};
+}
+
+void Document::KeepBody(std::uint32_t node, const std::string& body)
+{
+    if (!bodies_.emplace(node, body).second) return;
+    bodyOrder_.push_back(node);
+    bodyBytes_ += body.size();
+    while (bodyBytes_ > kMostBodyBytes && bodyOrder_.size() > 1) {
+        const auto oldest = bodies_.find(bodyOrder_.front());
+        bodyBytes_ -= oldest->second.size();
+        bodies_.erase(oldest);
+        bodyOrder_.pop_front();
+    }
+}
+
+FileFailure Document::LookupMissingData(std::uint32_t lngNodeCode)
+{
+    std::string body;
+    if (const auto failure = ReadBody(lngNodeCode, body)) return failure;
+    KeepBody(lngNodeCode, body);
+    return {};
+}
+
+std::string Document::GetNodeContents_strContent(std::uint32_t lngNodeCode)
+{
+    const NodeRecord& node = tree_->Nodes()[lngNodeCode];
+    std::string content;
+    if (node.head)
+        renderer_->AppendHeadLines(content, Fields()[node.field].SFName, node.lngStart, node.lngLength);
+    if (!node.deferred || node.bolUnread) {
+        tree_->AppendBody(content, lngNodeCode);
+        return content;
+    }
+    if (const auto kept = bodies_.find(lngNodeCode); kept != bodies_.end()) return content += kept->second;
+    std::string body;
+    const bool opened = !clsAFP_.Reader().IsOpen();
+    if (opened && RedirectOpenAFPFileRandom()) return content;
+    if (!ReadBody(lngNodeCode, body)) KeepBody(lngNodeCode, body);
+    if (opened) RedirectCloseAFPFile();
+    return content += body;
+}
+
+}  // namespace folioscope

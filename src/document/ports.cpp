@@ -1,0 +1,10 @@
+#include "document/ports.h"
+
+namespace folioscope {
+
+DecodePorts DecodersOfDeferredBodies()
+{
+    return {};
+}
+
+}  // namespace folioscope

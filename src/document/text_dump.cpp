@@ -1,0 +1,228 @@
+// The text dump: what the property pane shows of every node, in tree order, without its markup.
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "base/version.h"
+#include "codepages/system_page.h"
+#include "document/document.h"
+#include "document/dump_file.h"
+
+namespace folioscope {
+
+namespace {
+
+constexpr std::size_t kBufferSize = 256u << 10;
+constexpr std::uint32_t kGiveWayEvery = 500;  // nodes
+constexpr std::string_view kSeparator = "     ---------";
+constexpr std::string_view kHeadEnd = "\r\n\r\n";
+
+// Where the text behind the head paragraph starts. Without such a paragraph the count is as if it ended in front of
+// the first character, so that the first three or five characters are passed over.
+std::size_t DumpStart(std::string_view content)
+{
+    const auto head = content.find(kHeadEnd);
+    std::size_t start = 0;
+    if (head != std::string_view::npos)
+        start = head + kHeadEnd.size();
+    else
+        for (int i = 0; i < 3 && start < content.size(); ++i) start += Utf8Step(content[start]);
+    start = std::min(start, content.size());
+    return start + (content.substr(start).starts_with(kCrLf) ? kCrLf.size() : 0);
+}
+
+}  // namespace
+
+// Writes blocks into a buffer of fixed size, in the encoding that is asked for.
+class DumpWriter {
+public:
+    DumpWriter(Document& document, DumpSink& sink, DumpEncoding encoding)
+        : document_(document), tree_(*document.tree_), sink_(sink), system_(encoding == DumpEncoding::SystemPage),
+          lineEnd_(system_ ? kCrLf : kCrLf.substr(1))
+    {
+        separator_ = std::string(kSeparator);
+        separator_ += lineEnd_;
+        buffer_.reserve(kBufferSize * 2);
+    }
+
+    DumpResult Write()
+    {
+        std::uint32_t count = 0;
+        for (TreeWalk walk(tree_.Nodes()); !walk.AtEnd() && result_.Whole(); walk.Next()) {
+            if (walk.Node() == NodeStore::kRoot) {
+                PutHeader();
+                continue;
+            }
+            if (++count % kGiveWayEvery == 0) {
+                document_.host_.Progress(walk.Node());
+                document_.host_.GiveWay();
+                result_.cancelled = document_.bolOperationInterupted_;
+                if (result_.cancelled) break;
+            }
+            PutNode(walk.Node(), walk.Depth());
+            if (buffer_.size() >= kBufferSize) Flush();
+        }
+        Flush();
+        if (opened_) document_.RedirectCloseAFPFile();
+        return result_;
+    }
+
+private:
+    void Put(std::string_view text)
+    {
+        if (system_)
+            AppendInSystemPage(text, buffer_);
+        else
+            buffer_ += text;
+    }
+
+    // Depth prefixes can be far longer than the buffer is meant to be.
+    void PutPrefix(std::uint32_t depth)
+    {
+        for (std::size_t left = depth - 1; left > 0;) {
+            const std::size_t piece = std::min(left, kBufferSize);
+            buffer_.append(piece, '>');
+            left -= piece;
+            if (buffer_.size() >= kBufferSize) Flush();
+        }
+        buffer_ += '\t';
+    }
+
+    void PutHeader()
+    {
+        const Labels interface(document_.settings_.InterfaceLanguage());
+        Put(tree_.NodeText(NodeStore::kRoot));
+        buffer_ += ':';
+        buffer_ += lineEnd_;
+        buffer_ += lineEnd_;
+        buffer_ += "\tDump created by Folioscope Professional Version ";
+        buffer_ += kVersion;
+        buffer_ += lineEnd_;
+        buffer_ += "\tFolioscope, (c) ";
+        buffer_ += kReleaseDate.substr(kReleaseDate.size() - 4);
+        buffer_ += lineEnd_;
+        buffer_ += '\t';
+        Put(interface[U("http://www.marrowgate.example/")]);
+        buffer_ += lineEnd_;
+        buffer_ += lineEnd_;
+    }
+
+    void PutNode(std::uint32_t node, std::uint32_t depth)
+    {
+        const NodeRecord& record = tree_.Nodes()[node];
+        if (!record.head && record.content == kNoText) return;
+        body_.clear();
+        if (!record.deferred)
+            tree_.AppendBody(body_, node);
+        else if (!ReadDeferred(node))
+            return;
+        const std::size_t start = record.head ? (body_.starts_with(kCrLf) ? kCrLf.size() : 0) : DumpStart(body_);
+        PutBlock(node, depth, std::string_view(body_).substr(start));
+    }
+
+    bool ReadDeferred(std::uint32_t node)
+    {
+        if (!record(node).bolUnread) {
+            const auto kept = document_.bodies_.find(node);
+            if (kept != document_.bodies_.end()) {
+                body_ = kept->second;
+                return true;
+            }
+        }
+        if (!opened_) {
+            result_.input = document_.RedirectOpenAFPFileRandom();
+            if (result_.input) return false;
+            opened_ = true;
+        }
+        result_.input = document_.ReadBody(node, body_);
+        return !result_.input;
+    }
+
+    void PutBlock(std::uint32_t node, std::uint32_t depth, std::string_view text)
+    {
+        buffer_ += separator_;
+        auto end = text.find(kCrLf);
+        PutPrefix(depth);
+        PutNodeName(node, end == std::string_view::npos);
+        for (bool first = true; end != std::string_view::npos; first = false, end = text.find(kCrLf)) {
+            if (!first) {
+                PutPrefix(depth);
+            }
+            buffer_ += '\t';
+            PutLine(text.substr(0, end));
+            buffer_ += lineEnd_;
+            text.remove_prefix(end + kCrLf.size());
+        }
+    }
+
+    void PutNodeName(std::uint32_t node, bool whole)
+    {
+        name_.clear();
+        tree_.AppendNodeText(name_, node);
+        const auto colon = name_.find(':');
+        Put(std::string_view(name_).substr(0, whole || colon == 0 ? std::string::npos : colon));
+        if (whole) buffer_ += lineEnd_;
+    }
+
+    void PutLine(std::string_view line)
+    {
+        if (line.find(kMarker.front()) == std::string_view::npos) return Put(line);
+        line_.clear();
+        AppendWithoutMarkup(line_, line);
+        Put(line_);
+    }
+
+    void Flush()
+    {
+        if (!result_.output) result_.output = sink_.Write(buffer_);
+        result_.bytes += buffer_.size();
+        buffer_.clear();
+    }
+
+    const NodeRecord& record(std::uint32_t node) const { return tree_.Nodes()[node]; }
+
+    Document& document_;
+    const StructureTree& tree_;
+    DumpSink& sink_;
+    bool system_;
+    std::string_view lineEnd_;
+    std::string separator_, buffer_, body_, name_, line_;
+    DumpResult result_;
+    bool opened_ = false;
+};
+
+DumpResult Document::WriteDump(DumpSink& sink, DumpEncoding encoding)
+{
+    host_.OperationStarts(tree_->Nodes().Size());
+    const DumpResult result = DumpWriter(*this, sink, encoding).Write();
+    host_.OperationEnds();
+    return result;
+}
+
+void Document::SaveDump(const std::string& strSaveName)
+{
+    const Labels interface(settings_.InterfaceLanguage());
+    DumpFile file;
+    DumpResult result;
+    result.output = file.Create(strSaveName);
+    if (!result.output) result = WriteDump(file, DumpEncoding::SystemPage);
+    // What was written up to here stays, also of a dump that was stopped or has failed.
+    if (const auto failure = file.Commit(); !result.output) result.output = failure;
+    if (result.output || result.input) {
+        const FileFailure& failure = result.output ? result.output : result.input;
+        std::string number, text(interface[U("An error occured while creating the export file:\r\nError: %1\r\nFile: %2")]);
+        AppendNumber(number, std::int64_t{failure.number});
+        number += ", ";
+        number += failure.description;
+        ChangeString(text, "%1", number);
+        ChangeString(text, "%2", result.output ? strSaveName : clsAFP_.Reader().File());
+        bolOperationInterupted_ = true;
+        host_.MessageBox(BoxIcon::Stop, "Stop", text);
+    } else if (!result.cancelled) {
+        std::string text(interface[U("Dump has been saved as %1!")]);
+        ChangeString(text, "%1", strSaveName);
+        host_.MessageBox(BoxIcon::Information, "Information", text);
+    }
+}
+
+}  // namespace folioscope

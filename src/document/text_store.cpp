@@ -1,0 +1,97 @@
+#include "document/text_store.h"
+
+#include <cstring>
+
+namespace folioscope {
+
+namespace {
+
+std::uint32_t HashOf(std::string_view text)
+{
+    // Eight bytes a step: names and descriptors are short, contents can be long.
+    std::uint64_t hash = 0x9E3779B97F4A7C15u ^ text.size();
+    const char* at = text.data();
+    std::size_t left = text.size();
+    for (; left >= 8; at += 8, left -= 8) {
+        std::uint64_t piece;
+        std::memcpy(&piece, at, 8);
+        hash = (hash ^ piece) * 0xD6E8FEB86659FD93u;
+        hash ^= hash >> 32;
+    }
+    std::uint64_t rest = 0;
+    if (left > 0) std::memcpy(&rest, at, left);
+    hash = (hash ^ rest) * 0xD6E8FEB86659FD93u;
+    return static_cast<std::uint32_t>(hash ^ hash >> 32);
+}
+
+}  // namespace
+
+void TextStore::Clear()
+{
+    blocks_.clear();
+    table_.assign(1024, kNoText);
+    count_ = 0;
+    used_ = kBlockUnits;
+}
+
+TextStore::Header TextStore::HeaderAt(TextPlace place) const
+{
+    Header header;
+    std::memcpy(&header, Bytes(place), sizeof header);
+    return header;
+}
+
+std::string_view TextStore::At(TextPlace place) const
+{
+    if (place == kNoText) return {};
+    return {Bytes(place) + sizeof(Header), HeaderAt(place).size};
+}
+
+TextPlace TextStore::Keep(std::string_view text)
+{
+    if (text.empty()) return kNoText;
+    if ((count_ + 1) * 4 > table_.size() * 3) Grow();
+    const std::uint32_t hash = HashOf(text);
+    std::size_t slot = hash & (table_.size() - 1);
+    for (; table_[slot] != kNoText; slot = (slot + 1) & (table_.size() - 1))
+        if (HeaderAt(table_[slot]).hash == hash && At(table_[slot]) == text) return table_[slot];
+    ++count_;
+    return table_[slot] = Append(text, hash);
+}
+
+TextPlace TextStore::Append(std::string_view text, std::uint32_t hash)
+{
+    const std::size_t units = (sizeof(Header) + text.size() + kUnit - 1) / kUnit;
+    if (used_ + units > kBlockUnits) {
+        // The first unit of the first block is never given away, since place 0 means no text. A text that is longer
+        // than a block gets its own, and the places it covers stay unused.
+        blocks_.push_back(std::make_unique_for_overwrite<char[]>((units > kBlockUnits ? units + 1 : kBlockUnits) * kUnit));
+        used_ = blocks_.size() == 1 ? 1 : 0;
+    }
+    const auto place = static_cast<TextPlace>((blocks_.size() - 1) * kBlockUnits + used_);
+    const Header header = {static_cast<std::uint32_t>(text.size()), hash};
+    char* to = blocks_.back().get() + used_ * kUnit;
+    std::memcpy(to, &header, sizeof header);
+    std::memcpy(to + sizeof header, text.data(), text.size());
+    used_ += units;
+    return place;
+}
+
+void TextStore::Grow()
+{
+    std::vector<TextPlace> old(table_.size() * 2, kNoText);
+    old.swap(table_);
+    for (const TextPlace place : old) {
+        if (place == kNoText) continue;
+        std::size_t slot = HeaderAt(place).hash & (table_.size() - 1);
+        while (table_[slot] != kNoText) slot = (slot + 1) & (table_.size() - 1);
+        table_[slot] = place;
+    }
+}
+
+std::size_t TextStore::BytesUsed() const
+{
+    return blocks_.size() * kBlockUnits * kUnit + table_.size() * sizeof(TextPlace);
+}
+
+}  // namespace folioscope
