@@ -154,7 +154,7 @@ def lines_of(pages, numbers):
     for page in pages:
         table = f"&kPage{page.number}" if page.table else "nullptr"
         texts = f'"{page.symbol}", "{page.type}", "{page.name}"'
-        yield f"    {{{page.number}, {texts}, {page.substitute}, {table}}},"
+        yield f"    {{{page.number}, {page.substitute}, {texts}, {table}}},"
     yield "};"
 
 

@@ -22,10 +22,10 @@ using CharacterTable = std::array<CharacterNumber, 256>;  // by byte value; 0: t
 
 struct CodePageEntry {
     std::int16_t Number;
-    std::string_view Symbol;  // the number, with three digits at least
-    std::string_view Type;    // EBCDIC, ASCII, ANSI or Unicode; only shown
+    std::int16_t SubstituteValue;  // what stands for a character that the page hasn't got: byte value plus 1
+    std::string_view Symbol;       // the number, with three digits at least
+    std::string_view Type;         // EBCDIC, ASCII, ANSI or Unicode; only shown
     std::string_view LongName;
-    std::int16_t SubstituteValue;       // what stands for a character that the page hasn't got: byte value plus 1
     const CharacterTable* SourceTable;  // null for page 1200, which isn't single-byte
 };
 

@@ -47,12 +47,13 @@ FileFailure Document::ReadBody(std::uint32_t node, std::string& body)
     tree_->Revisit(node, record.bolUnread);
     tree_->Nodes()[node].bolUnread = false;
 
+    body.clear();
+    tree_->AppendBody(body, node);
+    if (clsAFP_.List().Elements().empty()) return {};
     PropertyText& text = renderer_->text;
     renderer_->IndentText.clear();
     text.Clear();
     text.Pass(renderer_->HeadLinesLength(Fields()[record.field].SFName, record.lngStart, record.lngLength));
-    body.clear();
-    tree_->AppendBody(body, node);
     text.Append(body);
     renderer_->RenderStructuredField(clsAFP_.List());
     body = text.Text().substr(0, text.Text().find_last_not_of(' ') + 1);

@@ -338,9 +338,10 @@ std::string_view StructureTree::ShortName(std::uint32_t node) const
     return nodes_[node].folder || field >= kFieldCount ? std::string_view() : Fields()[field].NodeText;
 }
 
-std::string_view StructureTree::NameLineLabel(std::uint32_t node) const
+std::pair<std::string_view, std::string_view> StructureTree::NameLine(std::uint32_t node) const
 {
-    return analysisLabels_[FieldInTree(nodes_[node].field).content ? L("Content") : L("Name")];
+    const NodeRecord& record = nodes_[node];
+    return {analysisLabels_[FieldInTree(record.field).content ? L("Content") : L("Name")], texts_.At(record.caption)};
 }
 
 void StructureTree::AppendBody(std::string& out, std::uint32_t node) const
@@ -352,11 +353,12 @@ void StructureTree::AppendBody(std::string& out, std::uint32_t node) const
     }
     // The two lines differ in the place of the tab.
     const bool content = FieldInTree(record.field).content;
-    out += NameLineLabel(node);
+    const auto [label, name] = NameLine(node);
+    out += label;
     out += content ? ":\t" : ":";
     out += kBold;
     if (!content) out += '\t';
-    out += texts_.At(record.caption);
+    out += name;
     out += kNormal;
     out += kCrLf;
 }

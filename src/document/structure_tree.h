@@ -4,6 +4,7 @@
 #include <deque>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "analysis/render/node_sink.h"
 #include "base/labels.h"
@@ -58,6 +59,8 @@ public:
     std::string NodeText(std::uint32_t node) const;
     // The body of the stored text, which may be a line made of the node's name: appended to `out`.
     void AppendBody(std::string& out, std::uint32_t node) const;
+    // Label and value of that line, if the node's record says that it is one (nameLine).
+    std::pair<std::string_view, std::string_view> NameLine(std::uint32_t node) const;
     // The short name of the leaf's field, empty for one that isn't known.
     std::string_view ShortName(std::uint32_t node) const;
 
@@ -71,7 +74,6 @@ private:
     void AppendName(std::uint32_t node, std::string_view name);
     void Mark(std::uint32_t node);
     void AppendTags(std::string& out, bool red) const;
-    std::string_view NameLineLabel(std::uint32_t node) const;
 
     const Settings& settings_;
     Labels analysisLabels_, interfaceLabels_;

@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::size_t kBufferSize = 256u << 10;
 constexpr std::uint32_t kGiveWayEvery = 500;  // nodes
+constexpr std::uint32_t kMostPrefixKept = 4096;
 constexpr std::string_view kSeparator = "     ---------";
 constexpr std::string_view kHeadEnd = "\r\n\r\n";
 
@@ -76,7 +77,23 @@ private:
             buffer_ += text;
     }
 
-    // Depth prefixes can be far longer than the buffer is meant to be.
+    // What stands in front of a block's node name. Neighbours mostly have the same depth.
+    void PutBlockHead(std::uint32_t depth)
+    {
+        if (depth > kMostPrefixKept) {
+            buffer_ += separator_;
+            return PutPrefix(depth);
+        }
+        if (depth != headDepth_) {
+            head_ = separator_;
+            head_.append(depth - 1, '>');
+            head_ += '\t';
+            headDepth_ = depth;
+        }
+        buffer_ += head_;
+    }
+
+    // A prefix can be far longer than the buffer is meant to be.
     void PutPrefix(std::uint32_t depth)
     {
         for (std::size_t left = depth - 1; left > 0;) {
@@ -112,12 +129,28 @@ private:
         const NodeRecord& record = tree_.Nodes()[node];
         if (!record.head && record.content == kNoText) return;
         body_.clear();
+        if (record.nameLine && PutNameBlock(node, depth)) return;
         if (!record.deferred)
             tree_.AppendBody(body_, node);
         else if (!ReadDeferred(node))
             return;
         const std::size_t start = record.head ? (body_.starts_with(kCrLf) ? kCrLf.size() : 0) : DumpStart(body_);
         PutBlock(node, depth, std::string_view(body_).substr(start));
+    }
+
+    // Most blocks are a name and nothing else. False: this one needs a closer look.
+    bool PutNameBlock(std::uint32_t node, std::uint32_t depth)
+    {
+        const auto [label, name] = tree_.NameLine(node);
+        if (name.find(kMarker.front()) != std::string_view::npos || name.find('\r') != std::string_view::npos) return false;
+        PutBlockHead(depth);
+        PutNodeName(node);
+        buffer_ += '\t';
+        Put(label);
+        buffer_ += ":\t";
+        Put(name);
+        buffer_ += lineEnd_;
+        return true;
     }
 
     bool ReadDeferred(std::uint32_t node)
@@ -140,14 +173,14 @@ private:
 
     void PutBlock(std::uint32_t node, std::uint32_t depth, std::string_view text)
     {
-        buffer_ += separator_;
         auto end = text.find(kCrLf);
-        PutPrefix(depth);
-        PutNodeName(node, end == std::string_view::npos);
+        PutBlockHead(depth);
+        if (end == std::string_view::npos)
+            PutWholeText(node);
+        else
+            PutNodeName(node);
         for (bool first = true; end != std::string_view::npos; first = false, end = text.find(kCrLf)) {
-            if (!first) {
-                PutPrefix(depth);
-            }
+            if (!first) PutPrefix(depth);
             buffer_ += '\t';
             PutLine(text.substr(0, end));
             buffer_ += lineEnd_;
@@ -155,13 +188,27 @@ private:
         }
     }
 
-    void PutNodeName(std::uint32_t node, bool whole)
+    void PutWholeText(std::uint32_t node)
     {
+        if (const NodeRecord& leaf = record(node); !leaf.red && leaf.caption == kNoText) {
+            Put(tree_.ShortName(node));
+            buffer_ += lineEnd_;
+            return;
+        }
+        name_.clear();
+        tree_.AppendNodeText(name_, node);
+        Put(name_);
+        buffer_ += lineEnd_;
+    }
+
+    // The node's text in front of its first colon, which in the text of most leaves is the short name.
+    void PutNodeName(std::uint32_t node)
+    {
+        if (!record(node).ownCaption && !record(node).red) return Put(tree_.ShortName(node));
         name_.clear();
         tree_.AppendNodeText(name_, node);
         const auto colon = name_.find(':');
-        Put(std::string_view(name_).substr(0, whole || colon == 0 ? std::string::npos : colon));
-        if (whole) buffer_ += lineEnd_;
+        Put(std::string_view(name_).substr(0, colon == 0 ? std::string::npos : colon));
     }
 
     void PutLine(std::string_view line)
@@ -186,7 +233,8 @@ private:
     DumpSink& sink_;
     bool system_;
     std::string_view lineEnd_;
-    std::string separator_, buffer_, body_, name_, line_;
+    std::string separator_, head_, buffer_, body_, name_, line_;
+    std::uint32_t headDepth_ = 0;  // the depth that head_ is made for
     DumpResult result_;
     bool opened_ = false;
 };

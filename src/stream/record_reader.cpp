@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::int32_t kMaxFileSize = 2'147'483'647;
 constexpr std::int32_t kCandidate = 4;       // bytes behind the position that the candidate test looks at
-constexpr std::int32_t kWindow = 512 * 1024;  // what a jump reads: its record, those behind it, and the tail
+constexpr std::int32_t kWindow = 2 << 20;  // what a jump reads: its record, those behind it, and the tail
 
 }  // namespace
 

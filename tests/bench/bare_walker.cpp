@@ -12,6 +12,7 @@
 #include <array>
 #include <charconv>
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -32,15 +33,12 @@ constexpr Byte kBegin = 0xA8, kEnd = 0xA9;
 constexpr std::uint16_t kTextPair = PairOf("PTX");
 
 struct Record {
-    const Byte* bytes;            // from the first length byte
+    const Byte* bytes;  // from the first length byte
     std::size_t length;
-    std::uint64_t start;          // position of the first length byte in the file, from 1
-    std::uint8_t row;             // of kFields, from 1
+    std::uint64_t start;  // position of the first length byte in the file, from 1
+    std::uint8_t row;     // of kFields, from 1
     Byte Category() const { return bytes[3]; }
-    std::span<const Byte> Content() const
-    {
-        return std::span(bytes, length).subspan(std::min(length, kIntroducer));
-    }
+    std::span<const Byte> Content() const { return std::span(bytes, length).subspan(std::min(length, kIntroducer)); }
 };
 
 // ----------------------------------------------------------------------------------------------------- reading
@@ -63,8 +61,8 @@ public:
         }
     }
     std::span<const Byte> Chunk() const { return {buffer_.get(), have_}; }
-    std::uint64_t Base() const { return base_; }              // bytes of the file ahead of the chunk
-    bool Ended() const { return ended_; }                     // the chunk is the last one
+    std::uint64_t Base() const { return base_; }  // bytes of the file ahead of the chunk
+    bool Ended() const { return ended_; }         // the chunk is the last one
     bool Failed() const { return failed_; }
 
 private:
@@ -76,8 +74,8 @@ private:
 };
 
 struct Framing {
-    std::size_t prefix;           // record descriptor word and x'5A' ahead of a length field
-    std::size_t delimiter;        // CR, LF or both behind a record
+    std::size_t prefix;     // record descriptor word and x'5A' ahead of a length field
+    std::size_t delimiter;  // CR, LF or both behind a record
 };
 
 std::size_t PrefixOf(std::span<const Byte> head)
@@ -159,8 +157,8 @@ public:
             Add() = {0, Parent(), 0, 0, 0, 0, 0};
             open_.push_back(folder);
         }
-        Add() = {static_cast<std::uint32_t>(record.start), Parent(), 0, 0, static_cast<std::uint16_t>(record.length),
-                 record.row, 0};
+        Add() = {static_cast<std::uint32_t>(record.start),  Parent(),   0, 0,
+                 static_cast<std::uint16_t>(record.length), record.row, 0};
         if (record.Category() == kEnd && !open_.empty()) open_.pop_back();
     }
 
@@ -245,10 +243,11 @@ char* PutHex(char* to, std::span<const Byte> bytes)
 }
 
 struct SequenceName {
-    Byte function;                // without the chaining bit
+    Byte function;  // without the chaining bit
     std::string_view text;
 };
 
+// clang-format off
 constexpr SequenceName kSequenceNames[] = {
     {0x74, "STC: Color: "},
     {0x76, "USC: Underscore: "},
@@ -265,6 +264,7 @@ constexpr SequenceName kSequenceNames[] = {
     {0xF6, "STO: Orientation: "},
     {0xF8, "NOP: Comment: "},
 };
+// clang-format on
 
 constexpr auto kTextOfFunction = [] {
     std::array<std::string_view, 256> texts;
@@ -296,7 +296,7 @@ private:
         const Byte position[] = {static_cast<Byte>(start >> 24), static_cast<Byte>(start >> 16),
                                  static_cast<Byte>(start >> 8), static_cast<Byte>(start)};
         to = Put(PutHex(to, position), " ");
-        return Put(PutHex(to, {record.bytes, 2}), end);
+        return Put(PutNumber(to, record.length), end);
     }
     char* PutIndent(char* to, std::string_view end) const
     {
@@ -345,7 +345,7 @@ using Clock = std::chrono::steady_clock;
 
 struct Figures {
     std::uint64_t records = 0, bytes = 0, text = 0;
-    double seconds = 0;           // until all is read and written; what it holds is given back afterwards
+    double seconds = 0;  // until all is read and written; what it holds is given back afterwards
     bool failed = false;
 };
 

@@ -19,7 +19,7 @@ void PutResourceGroup(RecordBuilder& out, Dice& dice);
 // pages have, so that a run of indexes has them all in the right proportion.
 unsigned PutInvoice(RecordBuilder& out, Dice& dice, std::size_t index, bool faults);
 
-void PutTag(RecordBuilder& out, std::string_view name, std::string_view value);       // TLE
-void PutFault(RecordBuilder& out);       // a page descriptor with unit bases that no table knows
+void PutTag(RecordBuilder& out, std::string_view name, std::string_view value);  // TLE
+void PutFault(RecordBuilder& out);  // a page descriptor with unit bases that no table knows
 
 }  // namespace folioscope::bench

@@ -7,11 +7,13 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
-#include <cstring>
 #include <limits>
 #include <numeric>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "invoice_run.h"
 #include "record_builder.h"
@@ -20,17 +22,16 @@
 namespace folioscope::bench {
 namespace {
 
-constexpr char kUsage[] =
-    "usage: make_afp SIZE FILE [--seed N] [--packaging 5a|bare|rdw2|rdw4|crlf|lf] [--faults]\n"
-    "                [--statements | --small | --deep DEPTH | --noise | --tiny FIELD]\n"
-    "\n"
-    "  SIZE          bytes, or with K M G (powers of 1000) or KiB MiB GiB (powers of 1024)\n"
-    "  --statements  a print run of invoices in named page groups; this is the default\n"
-    "  --small       groups of records of 8 to 30 bytes\n"
-    "  --deep DEPTH  towers of named groups, each inside the one before it\n"
-    "  --noise       invoices with stretches of noise between them, about half of the file\n"
-    "  --tiny FIELD  nothing but records of 8 bytes of this field, such as EPG\n"
-    "  --faults      adds a record with unknown values to each page, small group or level\n";
+constexpr char kUsage[] = "usage: make_afp SIZE FILE [--seed N] [--packaging 5a|bare|rdw2|rdw4|crlf|lf] [--faults]\n"
+                          "                [--statements | --small | --deep DEPTH | --noise | --tiny FIELD]\n"
+                          "\n"
+                          "  SIZE          bytes, or with K M G (powers of 1000) or KiB MiB GiB (powers of 1024)\n"
+                          "  --statements  a print run of invoices in named page groups; this is the default\n"
+                          "  --small       groups of records of 8 to 30 bytes\n"
+                          "  --deep DEPTH  towers of named groups, each inside the one before it\n"
+                          "  --noise       invoices with stretches of noise between them, about half of the file\n"
+                          "  --tiny FIELD  nothing but records of 8 bytes of this field, such as EPG\n"
+                          "  --faults      adds a record with unknown values to each page, small group or level\n";
 
 enum class Kind : std::uint8_t { Statements, Small, Deep, Noise, Tiny };
 
@@ -60,8 +61,12 @@ std::optional<std::uint64_t> ParseSize(std::string_view text)
         std::string_view suffix;
         std::uint64_t bytes;
     };
-    static constexpr Unit kSizeUnits[] = {{"KiB", 1ULL << 10}, {"MiB", 1ULL << 20}, {"GiB", 1ULL << 30},
-                                          {"K", 1'000},        {"M", 1'000'000},    {"G", 1'000'000'000}};
+    // clang-format off
+    static constexpr Unit kSizeUnits[] = {
+        {"KiB", 1ULL << 10}, {"MiB", 1ULL << 20}, {"GiB", 1ULL << 30},
+        {"K",   1'000},      {"M",   1'000'000},  {"G",   1'000'000'000},
+    };
+    // clang-format on
     std::uint64_t factor = 1;
     for (const auto [suffix, bytes] : kSizeUnits) {
         if (!text.ends_with(suffix)) continue;
@@ -262,8 +267,11 @@ Plan MakePlan(const Options& options, Dice& dice)
     Plan plan{RecordBuilder(*options.packaging), RecordBuilder(*options.packaging), {}, {}};
     plan.head.Put("BPF", Body().Name("INVOICES"));
     if (options.kind == Kind::Statements || options.kind == Kind::Noise) PutResourceGroup(plan.head, dice);
-    plan.head.Put("BDT", Body().Name("MONTHLY").Zeros(2).Triplet(0x01, Body().U2(0).U2(500)).Add(
-                             FullName(0x01, "Invoices of run " + std::to_string(options.seed))));
+    plan.head.Put("BDT", Body()
+                             .Name("MONTHLY")
+                             .Zeros(2)
+                             .Triplet(0x01, Body().U2(0).U2(500))
+                             .Add(FullName(0x01, "Invoices of run " + std::to_string(options.seed))));
     plan.tail.Put("EDT", Body().Name("MONTHLY"));
     plan.tail.Put("EPF", Body().Name("INVOICES"));
     plan.templates = MakeTemplates(options, dice);

@@ -50,10 +50,7 @@ Body& Body::Sequence(std::uint8_t function, const Body& parameters)
     return U1(parameters.Size() + 2).U1(function | 1U).Add(parameters);
 }
 
-Body FullName(std::uint8_t type, std::string_view name)
-{
-    return Body().Triplet(0x02, Body{type, 0}.Text(name));
-}
+Body FullName(std::uint8_t type, std::string_view name) { return Body().Triplet(0x02, Body{type, 0}.Text(name)); }
 
 void RecordBuilder::Put(FieldName field, std::span<const std::uint8_t> body)
 {

@@ -49,13 +49,13 @@ public:
     Body& U2(std::size_t value) { return Number(value, 2); }
     Body& U3(std::size_t value) { return Number(value, 3); }
     Body& Zeros(std::size_t count);
-    Body& Text(std::string_view utf8);                        // Latin 1 characters only
-    Body& Name(std::string_view utf8);                        // eight bytes, filled with blanks
+    Body& Text(std::string_view utf8);  // Latin 1 characters only
+    Body& Name(std::string_view utf8);  // eight bytes, filled with blanks
     Body& Add(std::span<const std::uint8_t> bytes);
     Body& Add(const Body& body) { return Add(body.bytes_); }
-    Body& Triplet(std::uint8_t id, const Body& content);      // length, identifier, content
-    Body& Group(const Body& content);                         // two length bytes, content
-    Body& Sequence(std::uint8_t function, const Body& parameters);    // chained
+    Body& Triplet(std::uint8_t id, const Body& content);            // length, identifier, content
+    Body& Group(const Body& content);                               // two length bytes, content
+    Body& Sequence(std::uint8_t function, const Body& parameters);  // chained
 
     std::span<const std::uint8_t> View() const { return bytes_; }
     std::size_t Size() const { return bytes_.size(); }
@@ -64,21 +64,27 @@ private:
     Bytes bytes_;
 };
 
-Body FullName(std::uint8_t type, std::string_view name);      // triplet x'02'
+Body FullName(std::uint8_t type, std::string_view name);  // triplet x'02'
 
 struct Packaging {
     std::string_view name;
-    std::size_t descriptor;       // bytes of the record descriptor word
-    bool control;                 // x'5A' ahead of the length
+    std::size_t descriptor;  // bytes of the record descriptor word
+    bool control;            // x'5A' ahead of the length
     std::string_view delimiter;
     constexpr std::size_t Framing() const { return descriptor + (control ? 1 : 0) + delimiter.size(); }
-    constexpr std::size_t Overhead() const { return Framing() + 8; }          // of a record without a body
+    constexpr std::size_t Overhead() const { return Framing() + 8; }  // of a record without a body
 };
 
+// clang-format off
 constexpr Packaging kPackagings[] = {
-    {"5a", 0, true, ""},   {"bare", 0, false, ""},     {"rdw2", 2, true, ""},
-    {"rdw4", 4, true, ""}, {"crlf", 0, true, "\r\n"},  {"lf", 0, true, "\n"},
+    {"5a",   0, true,  ""},
+    {"bare", 0, false, ""},
+    {"rdw2", 2, true,  ""},
+    {"rdw4", 4, true,  ""},
+    {"crlf", 0, true,  "\r\n"},
+    {"lf",   0, true,  "\n"},
 };
+// clang-format on
 
 // A field named where the compiler sees it; a name that kFields lacks doesn't compile.
 struct FieldName {
@@ -97,7 +103,7 @@ class RecordBuilder {
 public:
     explicit RecordBuilder(const Packaging& packaging) : packaging_(packaging) {}
     void Put(FieldName field, const Body& body = {}) { Put(field, body.View()); }
-    void Put(FieldName field, std::span<const std::uint8_t> body);       // at most kLongestBody bytes
+    void Put(FieldName field, std::span<const std::uint8_t> body);  // at most kLongestBody bytes
 
     const Packaging& packaging() const { return packaging_; }
     const Bytes& bytes() const { return bytes_; }

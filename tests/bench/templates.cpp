@@ -56,7 +56,8 @@ constexpr auto kCategories = [] {
 void BreakPairs(Bytes& noise)
 {
     static constexpr std::uint8_t kHarmless = 0x11;
-    std::fill(noise.end() - static_cast<std::ptrdiff_t>(std::min<std::size_t>(noise.size(), 2)), noise.end(), kHarmless);
+    std::fill(noise.end() - static_cast<std::ptrdiff_t>(std::min<std::size_t>(noise.size(), 2)), noise.end(),
+              kHarmless);
     for (std::size_t i = 0; i + 1 < noise.size(); ++i)
         if (noise[i] == 0xD3 && kCategories[noise[i + 1]]) noise[i + 1] = kHarmless;
 }
@@ -64,16 +65,16 @@ void BreakPairs(Bytes& noise)
 }  // namespace
 
 Template::Template(const RecordBuilder& records, unsigned pages)
-    : bytes_(records.bytes()), records_(records.records()), pages_(pages),
-      group_{PlacesOf(bytes_, kGroupSlot), kGroupSlot.size()},
-      account_{PlacesOf(bytes_, kAccountSlot), kAccountSlot.size()},
-      amount_{PlacesOf(bytes_, kAmountSlot), kAmountSlot.size()}
+    : bytes_(records.bytes()), records_(records.records()),
+      pages_(pages), group_{PlacesOf(bytes_, kGroupSlot), kGroupSlot.size()},
+      account_{PlacesOf(bytes_, kAccountSlot), kAccountSlot.size()}, amount_{PlacesOf(bytes_, kAmountSlot),
+                                                                             kAmountSlot.size()}
 {
 }
 
 const Bytes& Template::Numbered(std::uint64_t serial)
 {
-    constexpr std::uint64_t kMixer = 2654435761;       // odd and without a factor five, so accounts don't repeat
+    constexpr std::uint64_t kMixer = 2654435761;  // odd and without a factor five, so accounts don't repeat
     const auto fill = [this](const Slots& slots, std::uint64_t number) {
         for (const std::size_t place : slots.places) {
             std::uint64_t rest = number;

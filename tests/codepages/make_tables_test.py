@@ -33,7 +33,8 @@ CODECS = [
     (863, "cp863", "8D:00EC ED:2205 F8:2218 F9:00B7 FA:2022"),
     (865, "cp865", "AF:00BB ED:2205 F8:2218 F9:00B7 FA:2022"),
     (869, "cp869", "8B:201B 8E:2014 EF:00B4"),
-    (875, "cp875", "6A:---- 74:2207 B4:0390 B8:03B0 CC:03CA CD:03CB DC:---- DD:00B7 E1:---- EC:---- ED:---- FC:---- FD:----"),
+    (875, "cp875", "6A:---- 74:2207 B4:0390 B8:03B0 CC:03CA CD:03CB DC:---- DD:00B7 E1:---- EC:---- ED:---- "
+                   "FC:---- FD:----"),
     (878, "koi8_r", "95:2022"),
     (912, "iso8859_2", ""),
     (913, "iso8859_3", ""),
@@ -118,8 +119,8 @@ class Script(unittest.TestCase):
         self.assertEqual((result.returncode, result.stderr), (0, ""))
         text = self.target.read_text(encoding="ascii")
         self.assertEqual(text.count("constexpr CharacterTable kPage"), 80)
-        self.assertIn('{37, "037", "EBCDIC", "USA/Canada", 76, &kPage37},', text)
-        self.assertIn('{1200, "1200", "Unicode", "UTF-16BE", 47, nullptr},', text)
+        self.assertIn('{37, 76, "037", "EBCDIC", "USA/Canada", &kPage37},', text)
+        self.assertIn('{1200, 47, "1200", "Unicode", "UTF-16BE", nullptr},', text)
 
     def test_wrong_use(self):
         result = subprocess.run([sys.executable, SCRIPT], capture_output=True, text=True, check=False)

@@ -52,8 +52,19 @@ TEST(SystemPage, RunsOfAsciiOfAnyLengthAroundAnotherCharacter)
     for (std::size_t before = 0; before < 20; ++before)
         for (std::size_t after = 0; after < 20; ++after) {
             const std::string a(before, 'a'), b(after, 'b');
-            EXPECT_EQ(InSystemPage(a + "ß" + b), a + "\xDF" + b);
+            EXPECT_EQ(InSystemPage(std::string(a).append("ß").append(b)), std::string(a).append("\xDF").append(b));
         }
+}
+
+TEST(SystemPage, OneByteBeyondAsciiIsFoundAnywhere)
+{
+    for (std::size_t at = 0; at < 40; ++at) {
+        std::string text(40, 'a');
+        text[at] = '\xC3';
+        std::string expected(40, 'a');
+        expected[at] = '?';
+        EXPECT_EQ(InSystemPage(text), expected);
+    }
 }
 
 TEST(SystemPage, EncodesWhatItDecodes)
