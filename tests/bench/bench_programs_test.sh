@@ -10,6 +10,7 @@ make_afp=$1
 bare_walker=$2
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+trap 'echo "FAILED: a command in line $LINENO" >&2' ERR
 failures=0
 
 fail() {
@@ -82,6 +83,25 @@ for packaging in 5a bare rdw2 rdw4 crlf lf; do
     ((noise > 1200000 && noise < 2800000)) || fail "$noise bytes of noise in 4000000, $packaging"
 done
 
+# Where no whole piece fits, all is filler, and every size must come out that has room for a record.
+least=$({ "$make_afp" 1 "$work/a.afp" --small || true; } 2>&1 | sed -E 's/.* are ([0-9]+) and.*/\1/')
+for more in 0 9 10 3999 4000 4001 4002 4008 4009 4010 8001 8008; do
+    line=$(made $((least + more)) "$work/a.afp" --small)
+    expect "size with filler of $more" $((least + more)) "$(bytes_of "$work/a.afp")"
+    expect "steps through filler of $more" "$(sed -E 's/.* bytes, ([0-9]+) records.*/\1/' <<<"$line")" \
+        "$(step_through "$work/a.afp" 1 0)"
+done
+for more in -1 1 8; do
+    expect_status "room for half a record, $more" 1 "$make_afp" $((least + more)) "$work/no.afp" --small
+done
+
+# The walker reads in chunks of 10 MB.
+for kind in --small --statements; do
+    line=$(made 25M "$work/a.afp" $kind --packaging bare)
+    expect "records of several chunks, $kind" "$(sed -E 's/.* bytes, ([0-9]+) records.*/\1/' <<<"$line")" \
+        "$(count_of read "$work/a.afp")"
+done
+
 for size in "12K 12000" "12KiB 12288" "1M 1000000" "1MiB 1048576"; do
     made "${size% *}" "$work/a.afp" --small >/dev/null
     expect "size $size" "${size#* }" "$(bytes_of "$work/a.afp")"
@@ -134,7 +154,8 @@ expect "empty file" 0 "$(walk_bytes read '')"
 expect "seven bytes" 0 "$(walk_bytes read '\x00\x08\xD3\xA8\xA5\x00\x00')"
 expect "unknown field" 0 "$(walk_bytes read '\x00\x08\xD3\xA8\x00\x00\x00\x00')"
 expect "last record cut" 1 "$(walk_bytes read '\0\x08\xD3\xA8\xA5\0\0\0\0\x0A\xD3\xA9\xA5\0\0\0\0')"
-expect "length 0 goes on" 2 "$(walk_bytes read '\x5A\0\0\xD3\xA8\xA5\0\0\0\0\x08\xD3\xA9\xA5\0\0\0')"
+expect "length 0 goes on" 2 "$(walk_bytes read '\0\0\xD3\xA8\xA5\0\0\0\0\x08\xD3\xA9\xA5\0\0\0')"
+expect "length 0 behind a control byte" 2 "$(walk_bytes read '\x5A\0\0\xD3\xA8\xA5\0\0\0\0\x08\xD3\xA9\xA5\0\0\0')"
 expect "CR LF" 2 "$(walk_bytes nodes '\x5A\0\x08\xD3\xA8\xA5\0\0\0\r\n\x5A\0\x08\xD3\xA9\xA5\0\0\0\r\n')"
 expect "noise between" 2 "$(walk_bytes read '\x5A\0\x08\xD3\xA8\xA5\0\0\0\xD3\xA8\xD3\x11\x5A\0\x08\xD3\xA9\xA5\0\0\0')"
 

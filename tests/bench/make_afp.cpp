@@ -13,6 +13,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "invoice_run.h"
@@ -248,7 +249,7 @@ void PutFiller(OutputFile& out, const Packaging& packaging, std::uint64_t amount
 // ------------------------------------------------------------------------------------------------------- files
 
 struct Plan {
-    RecordBuilder head, tail;
+    Template head, tail;
     std::vector<Template> templates;
     std::vector<Bytes> noise;
 };
@@ -262,19 +263,28 @@ std::vector<Template> MakeTemplates(const Options& options, Dice& dice)
     }
 }
 
+Template Head(const Options& options, Dice& dice)
+{
+    RecordBuilder head(*options.packaging);
+    head.Put("BPF", Body().Name("INVOICES"));
+    if (options.kind == Kind::Statements || options.kind == Kind::Noise) PutResourceGroup(head, dice);
+    Body document = Body().Name("MONTHLY").Zeros(2).Triplet(0x01, Body().U2(0).U2(500));
+    head.Put("BDT", document.Add(FullName(0x01, "Invoices of run " + std::to_string(options.seed))));
+    return Template(head);
+}
+
+Template Tail(const Options& options)
+{
+    RecordBuilder tail(*options.packaging);
+    tail.Put("EDT", Body().Name("MONTHLY"));
+    tail.Put("EPF", Body().Name("INVOICES"));
+    return Template(tail);
+}
+
 Plan MakePlan(const Options& options, Dice& dice)
 {
-    Plan plan{RecordBuilder(*options.packaging), RecordBuilder(*options.packaging), {}, {}};
-    plan.head.Put("BPF", Body().Name("INVOICES"));
-    if (options.kind == Kind::Statements || options.kind == Kind::Noise) PutResourceGroup(plan.head, dice);
-    plan.head.Put("BDT", Body()
-                             .Name("MONTHLY")
-                             .Zeros(2)
-                             .Triplet(0x01, Body().U2(0).U2(500))
-                             .Add(FullName(0x01, "Invoices of run " + std::to_string(options.seed))));
-    plan.tail.Put("EDT", Body().Name("MONTHLY"));
-    plan.tail.Put("EPF", Body().Name("INVOICES"));
-    plan.templates = MakeTemplates(options, dice);
+    Template head = Head(options, dice);
+    Plan plan{std::move(head), Tail(options), MakeTemplates(options, dice), {}};
     if (options.kind == Kind::Noise) {
         const std::size_t sum = std::accumulate(plan.templates.begin(), plan.templates.end(), std::size_t{0},
                                                 [](std::size_t all, const Template& one) { return all + one.Size(); });
@@ -308,16 +318,16 @@ void PutTemplates(OutputFile& out, Plan& plan, std::uint64_t end, std::uint64_t 
 std::uint64_t LeastSize(const Options& options, const Plan& plan)
 {
     const std::uint64_t tower = options.kind == Kind::Deep ? plan.templates.front().Size() : 0;
-    return plan.head.bytes().size() + tower + plan.tail.bytes().size();
+    return plan.head.Size() + tower + plan.tail.Size();
 }
 
 void PutRun(OutputFile& out, const Options& options, Plan& plan, Dice& dice, Totals& totals)
 {
-    const std::uint64_t end = options.size - plan.tail.bytes().size();
-    out.Put(plan.head.bytes());
+    const std::uint64_t end = options.size - plan.tail.Size();
+    out.Put(plan.head.Numbered(0));
     PutTemplates(out, plan, end, options.packaging->Overhead(), dice, totals);
     PutFiller(out, *options.packaging, end - out.Size(), totals);
-    out.Put(plan.tail.bytes());
+    out.Put(plan.tail.Numbered(0));
     totals.records += plan.head.records() + plan.tail.records();
 }
 

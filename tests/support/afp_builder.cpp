@@ -13,8 +13,8 @@ struct Glyph {
     char ascii;
     unsigned char ebcdic;
 };
-constexpr Glyph kPunctuation[] = {{' ', 0x40}, {'.', 0x4B}, {'(', 0x4D}, {'+', 0x4E}, {'&', 0x50}, {'*', 0x5C},
-                                  {')', 0x5D}, {'-', 0x60}, {'/', 0x61}, {',', 0x6B}, {'%', 0x6C}, {'_', 0x6D},
+constexpr Glyph kPunctuation[] = {{' ', 0x40}, {'.', 0x4B}, {'(', 0x4D}, {'+', 0x4E},  {'&', 0x50}, {'*', 0x5C},
+                                  {')', 0x5D}, {'-', 0x60}, {'/', 0x61}, {',', 0x6B},  {'%', 0x6C}, {'_', 0x6D},
                                   {'>', 0x6E}, {'?', 0x6F}, {':', 0x7A}, {'\'', 0x7D}, {'=', 0x7E}};
 
 char EbcdicOf(char c)
@@ -33,32 +33,17 @@ char EbcdicOf(char c)
     throw std::invalid_argument("no EBCDIC for a character of a test");
 }
 
-unsigned HexDigit(char c)
-{
-    return static_cast<unsigned>(c <= '9' ? c - '0' : c - 'A' + 10);
-}
+unsigned HexDigit(char c) { return static_cast<unsigned>(c <= '9' ? c - '0' : c - 'A' + 10); }
 
 }  // namespace
 
-Bytes U1(unsigned value)
-{
-    return Bytes(1, static_cast<char>(value));
-}
+Bytes U1(unsigned value) { return Bytes(1, static_cast<char>(value)); }
 
-Bytes U2(unsigned value)
-{
-    return U1(value >> 8) + U1(value);
-}
+Bytes U2(unsigned value) { return U1(value >> 8) + U1(value); }
 
-Bytes U3(unsigned value)
-{
-    return U1(value >> 16) + U2(value);
-}
+Bytes U3(unsigned value) { return U1(value >> 16) + U2(value); }
 
-Bytes U4(std::uint32_t value)
-{
-    return U2(value >> 16) + U2(value);
-}
+Bytes U4(std::uint32_t value) { return U2(value >> 16) + U2(value); }
 
 Bytes Raw(std::initializer_list<int> bytes)
 {
@@ -67,10 +52,7 @@ Bytes Raw(std::initializer_list<int> bytes)
     return raw;
 }
 
-Bytes Zeros(std::size_t count)
-{
-    return Bytes(count, '\0');
-}
+Bytes Zeros(std::size_t count) { return Bytes(count, '\0'); }
 
 Bytes Ebcdic(std::string_view text)
 {
@@ -86,10 +68,7 @@ Bytes Ebcdic8(std::string_view text)
     return bytes;
 }
 
-Bytes Triplet(unsigned id, const Bytes& data)
-{
-    return U1(static_cast<unsigned>(data.size()) + 2) + U1(id) + data;
-}
+Bytes Triplet(unsigned id, const Bytes& data) { return U1(static_cast<unsigned>(data.size()) + 2) + U1(id) + data; }
 
 Bytes IdentifierOf(std::string_view name)
 {
@@ -103,7 +82,8 @@ Bytes IdentifierOf(std::string_view name)
 
 Bytes Structured(const Field& field)
 {
-    const unsigned length = field.declaredLength != 0 ? field.declaredLength : static_cast<unsigned>(field.data.size()) + 8;
+    const unsigned length =
+        field.declaredLength != 0 ? field.declaredLength : static_cast<unsigned>(field.data.size()) + 8;
     return U2(length) + U1(0xD3) + IdentifierOf(field.name) + U1(field.flags) + U2(0) + field.data;
 }
 
