@@ -38,6 +38,11 @@ constexpr Layout kLayouts[] = {
 };
 // clang-format on
 
+void DropTrailingZeros(Decimal& decimal)
+{
+    while (decimal.count > 0 && decimal.digits[static_cast<std::size_t>(decimal.count - 1)] == '0') --decimal.count;
+}
+
 Decimal DecimalOf(std::int64_t value)
 {
     Decimal decimal;
@@ -62,7 +67,7 @@ Decimal DecimalOf(double value, int significant)
     ++decimal.exponent;
     for (const char* c = text.data(); c != mark; ++c)
         if (*c != '.') decimal.digits[static_cast<std::size_t>(decimal.count++)] = *c;
-    while (decimal.count > 0 && decimal.digits[static_cast<std::size_t>(decimal.count - 1)] == '0') --decimal.count;
+    DropTrailingZeros(decimal);
     return decimal;
 }
 
@@ -86,6 +91,7 @@ void RoundTo(Decimal& decimal, int decimals)
         decimal.count = 1;
         decimal.exponent = kept == 0 ? 1 - decimals : decimal.exponent + 1;
     }
+    DropTrailingZeros(decimal);
     if (decimal.count == 0) decimal = {};
 }
 

@@ -23,7 +23,7 @@ void AppendUtf8(std::string& out, char32_t character)
 std::size_t Utf8Step(char first)
 {
     const auto byte = static_cast<unsigned char>(first);
-    return byte < 0xC0 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
+    return byte < 0xC0 || byte > 0xF7 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
 }
 
 std::size_t Utf16Length(std::string_view text)

@@ -10,7 +10,7 @@ namespace folioscope {
 namespace {
 
 constexpr std::int32_t kMaxFileSize = 2'147'483'647;
-constexpr std::int32_t kCandidate = 4;       // bytes behind the position that the candidate test looks at
+constexpr std::int32_t kCandidate = 4;     // bytes behind the position that the candidate test looks at
 constexpr std::int32_t kWindow = 2 << 20;  // what a jump reads: its record, those behind it, and the tail
 
 }  // namespace
@@ -48,7 +48,12 @@ Status RecordReader::OpenAFPFile()
     DetectPrefix();
     const Status first = GetNextRecord2();
     if (first == kFailure) return kFailure;
-    if (first == kRecord) DetectDelimiter();
+    if (first == kNoFurtherRecord) {
+        // There is nothing to go back to, and no need to look twice.
+        lngProcessedBytes_ = lngFileSize_;
+        return kOpen;
+    }
+    DetectDelimiter();
     // Back to the first record without reading: where the search for it has moved the buffer on, positions and
     // buffer part company, and the records found from here on are told at the positions that the walk counts.
     const std::int32_t prefix = framing_.intRDWLength + framing_.int5ALength;
@@ -110,7 +115,21 @@ bool RecordReader::FindRecord()
     return false;
 }
 
-// Steps to the next x'D3' that could belong to a record, at most to where a refill or a pause is due.
+// How many of the positions from this one on start no record. The one in hand is known not to.
+std::int32_t RecordReader::NoiseFrom(std::int32_t position, std::int32_t positions) const
+{
+    const std::uint8_t* const first = &buffer_[static_cast<std::size_t>(position) + 1];  // x'D3' of the position
+    const std::uint8_t* const end = first + positions;
+    for (const std::uint8_t* at = first + 1; at < end; ++at) {
+        if (*at != 0xD3)
+            at = static_cast<const std::uint8_t*>(std::memchr(at, 0xD3, static_cast<std::size_t>(end - at)));
+        if (at == nullptr) break;
+        if (IsKnownSF(at[1], at[2])) return static_cast<std::int32_t>(at - first);
+    }
+    return positions;
+}
+
+// Steps to the next position that could start a record, at most to where a refill or a pause is due.
 bool RecordReader::SkipNoise()
 {
     const std::int32_t refillAt = kChunkSize - kCandidate + 1;
@@ -119,10 +138,8 @@ bool RecordReader::SkipNoise()
         Skip(CanRefill() ? std::max(refillAt - lngBufferPos_, 1) : lngFileSize_ - lngProcessedBytes_);
         return true;
     }
-    const std::uint8_t* from = &buffer_[static_cast<std::size_t>(lngBufferPos_) + 2];  // x'D3' of the next position
-    const std::int32_t left = std::min(valid_ - kCandidate - lngBufferPos_, kPauseEvery);
-    const void* found = left > 0 ? std::memchr(from, 0xD3, static_cast<std::size_t>(left)) : nullptr;
-    Skip(found != nullptr ? static_cast<std::int32_t>(static_cast<const std::uint8_t*>(found) - from) + 1 : left + 1);
+    const std::int32_t positions = std::min(valid_ - kCandidate - lngBufferPos_ + 1, kPauseEvery);
+    Skip(NoiseFrom(lngBufferPos_, positions));
     if (lngProcessedBytes_ < nextPause_) return true;
     nextPause_ = lngProcessedBytes_ > kMaxFileSize - kPauseEvery ? kMaxFileSize : lngProcessedBytes_ + kPauseEvery;
     return !onScan || onScan(lngProcessedBytes_);
@@ -139,12 +156,12 @@ void RecordReader::Skip(std::int32_t bytes)
 void RecordReader::Pass()
 {
     recordStart_ = lngBufferPos_;
-    std::int32_t step =
-        framing_.intRDWLength + fieldLength_ + framing_.int5ALength + framing_.intDelimiterLength;
+    std::int32_t step = framing_.intRDWLength + fieldLength_ + framing_.int5ALength + framing_.intDelimiterLength;
     // A bare record of length 0 would be found here for ever.
     step = std::max(step, 1);
     lngBufferPos_ += step;
-    lngProcessedBytes_ = static_cast<std::int32_t>(std::min<std::int64_t>(std::int64_t{lngProcessedBytes_} + step, kMaxFileSize));
+    lngProcessedBytes_ =
+        static_cast<std::int32_t>(std::min<std::int64_t>(std::int64_t{lngProcessedBytes_} + step, kMaxFileSize));
 }
 
 // A jump behaves as if it read a whole chunk from the record on, but a part of it is enough: what the decoders of
@@ -153,7 +170,8 @@ FileFailure RecordReader::SetNextRecord(std::int32_t lngProcessedStart)
 {
     const auto reaches = [&](std::int32_t length) {
         const std::int64_t from = std::int64_t{lngProcessedStart} - lngBufferFilePos_;
-        const std::int64_t end = std::min<std::int64_t>(from + length, std::int64_t{lngFileSize_} - lngBufferFilePos_ + 1);
+        const std::int64_t end =
+            std::min<std::int64_t>(from + length, std::int64_t{lngFileSize_} - lngBufferFilePos_ + 1);
         return !astray_ && from >= 0 && from < valid_ && end <= valid_;
     };
     if (!reaches(kLongestRecord + kTailSize) && !Load(lngProcessedStart, kWindow)) return failure_;

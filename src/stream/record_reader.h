@@ -87,6 +87,7 @@ private:
     void DetectDelimiter();
     bool FindRecord();
     bool SkipNoise();
+    std::int32_t NoiseFrom(std::int32_t position, std::int32_t positions) const;
     void Skip(std::int32_t bytes);
     void Advance();
     void Pass();
