@@ -77,12 +77,12 @@ public:
         }
         if (!pageNOP_) options_.settings.CodepageNOP = options_.settings.Codepage;
         if (!pageTLE_) options_.settings.CodepageTLE = options_.settings.Codepage;
-        if (!Decided()) CheckTogether();
+        CheckTogether();
         TellFault();
     }
 
 private:
-    // The first of these on the command line says what is to be done; what follows it can still choose the language.
+    // The first of these on the command line says what is done; what follows it can still choose the language.
     bool Decided() const { return fault_ != Label::None || options_.help || options_.version; }
 
     void TakeOption(std::string_view word, const char* next, int& index)

@@ -1,6 +1,7 @@
 #include "document_support.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <unistd.h>
 
 #include "analysis/decode/dispatch.h"
@@ -50,6 +51,14 @@ std::vector<std::string> LinesOf(const MessageList& messages)
         lines.push_back(line);
     }
     return lines;
+}
+
+bool IsHeldOpen(const std::string& path)
+{
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd", error))
+        if (std::filesystem::read_symlink(entry, error) == path) return true;
+    return false;
 }
 
 TestDocument::TestDocument(std::string_view content, const Settings& settings, const DecodePorts& ports,

@@ -69,6 +69,9 @@ struct TestListener final : MessageListener {
 // "Structure E: text", one for each line of the list.
 std::vector<std::string> LinesOf(const MessageList& messages);
 
+// Whether this process has a file open.
+bool IsHeldOpen(const std::string& path);
+
 // A document over a file of its own, by the name of test.afp.
 class TestDocument {
 public:

@@ -259,6 +259,11 @@ TEST(NodeDetails, ManyLargeBodiesReadTheSameAlways)
         ASSERT_TRUE(doc->Content(node) == first[node - 2]) << node;
     EXPECT_EQ(doc->messages.Size(), static_cast<std::size_t>(kCount));
     EXPECT_EQ(Outline(doc->Tree()), outline);
+    EXPECT_FALSE(test::IsHeldOpen(doc->path));
+    // Those that were asked for last are at hand.
+    std::filesystem::remove(doc->path);
+    for (std::uint32_t node = 2 * kCount - 100; node < 2 + 2 * kCount; ++node)
+        ASSERT_TRUE(doc->Content(node) == first[node - 2]) << node;
 }
 
 // Failures ----------------------------------------------------------------------------------------------------------

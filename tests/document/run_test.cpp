@@ -20,6 +20,7 @@ using test::Ebcdic;
 using test::Ebcdic8;
 using test::Field;
 using test::HeadLines;
+using test::IsHeldOpen;
 using test::LinesOf;
 using test::Outline;
 using test::Packaging;
@@ -61,14 +62,6 @@ std::string SparseFile(const test::TemporaryFolder& folder, std::int64_t size, c
               static_cast<ssize_t>(last.size()));
     ::close(handle);
     return path;
-}
-
-bool IsHeldOpen(const std::string& path)
-{
-    std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd", error))
-        if (std::filesystem::read_symlink(entry, error) == path) return true;
-    return false;
 }
 
 // The file and its packaging ----------------------------------------------------------------------------------------

@@ -161,6 +161,12 @@ TEST(TextDump, KeepsTheRedTagsOfNames)
               Block({">\tBDT"}) + Block({">\t<color=clred>EPG\tName:\tA>B: C"}) + Block({"\tNOP\tContent:\tnote"}));
 }
 
+TEST(TextDump, ARedRecordWithoutNameKeepsItsTagToo)
+{
+    const auto doc = Analyse(AfpFile().Add("BDT").Add("EPG").Content());
+    EXPECT_EQ(Blocks(Dump(*doc)), Block({">\tBDT"}) + Block({">\t<color=clred>EPG"}));
+}
+
 TEST(TextDump, ANameThatTheMarkHasCutIsTakenUpToItsFirstColon)
 {
     const auto doc = Analyse(AfpFile().Add("NOP").Add("NOP", Ebcdic("A>B: C")).Content());
@@ -336,6 +342,7 @@ TEST(TextDump, DumpsManyLargeBodiesTheSameAlways)
             Block({"\tPTX\tContent:\t" + std::to_string(i) + std::string(60'000, static_cast<char>('a' + i % 26))});
     EXPECT_TRUE(Blocks(sink.text) == expected);
     EXPECT_TRUE(Dump(*doc) == sink.text);
+    EXPECT_FALSE(test::IsHeldOpen(doc->path));
     EXPECT_GT(sink.sizes.size(), 10u);
     for (const auto size : sink.sizes) EXPECT_LE(size, 1u << 20);
 }

@@ -292,27 +292,38 @@ TEST(FsvDumpFailedOutput, LeavesNothingBehind)
     EXPECT_EQ(FilesIn(folder.Path()), (Names{"deep", "old"}));
 }
 
+// The next file to be opened would stand in for the closed one: the copy of standard input.
 TEST(FsvDumpFailedOutput, IsAClosedStandardOutput)
 {
-    const TemporaryFolder folder;
-    const std::string file = folder.File("a", Statement());
-    Call call = DumpCall({file});
-    call.closed = {1};
-    const Ended ended = RunToEnd(call);
-    EXPECT_EQ(ended.status, 4);
-    EXPECT_TRUE(ended.err.starts_with("standard output: "));
+    for (const Names& arguments : {Names{"-"}, Names{"--tree", "-"}, Names{"--help"}}) {
+        Call call = DumpCall(arguments);
+        call.input = Statement();
+        call.closed = {1};
+        const Ended ended = RunToEnd(call);
+        EXPECT_EQ(ended.status, 4);
+        EXPECT_TRUE(ended.err.starts_with("standard output: "));
+    }
 }
 
-// The next files to be opened would stand in for the closed ones.
-TEST(FsvDumpOutput, GetsNothingThatIsMeantForAClosedStream)
+TEST(FsvDumpFailedOutput, IsAClosedStandardErrorIfMessagesAreAskedFor)
+{
+    Call call = DumpCall({"--messages", "-"});
+    call.input = Damaged();
+    call.closed = {2};
+    EXPECT_EQ(RunToEnd(call).status, 4);
+    call.words.erase(call.words.begin() + 1);
+    EXPECT_EQ(RunToEnd(call).status, 1);
+}
+
+TEST(FsvDumpOutput, NeedsNoStandardStreams)
 {
     const TemporaryFolder folder;
-    const std::string file = folder.File("bad", Damaged()), out = folder / "out";
-    Call call = DumpCall({"--messages", file, "-o", out});
+    const std::string file = folder.File("a.afp", Statement());
+    Call call = DumpCall({file, "-o", folder / "out"});
     call.closed = {0, 1, 2};
-    EXPECT_EQ(RunToEnd(call).status, 4);
-    EXPECT_EQ(ReadWhole(out), InSystemPage(Dump({file}).out));
-    EXPECT_EQ(ReadWhole(file), Damaged());
+    EXPECT_EQ(RunToEnd(call).status, 0);
+    EXPECT_EQ(ReadWhole(folder / "out"), InSystemPage(StatementDump("a.afp")));
+    EXPECT_EQ(ReadWhole(file), Statement());
 }
 
 TEST(FsvDumpOutput, WaitsForAPipeThatDoesNotBlock)
