@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "analysis/decode/dispatch.h"
+#include "analysis/decode/groups.h"
 #include "base/text.h"
 
 namespace folioscope {
@@ -63,10 +64,7 @@ struct clsAFPFunctions::TextPage {
     ByteTexts texts;
 };
 
-clsAFPFunctions::clsAFPFunctions()
-{
-    CodePages.Reset(Pages.lngInputCP);
-}
+clsAFPFunctions::clsAFPFunctions() { CodePages.Reset(Pages.lngInputCP); }
 
 clsAFPFunctions::~clsAFPFunctions() = default;
 
@@ -179,14 +177,30 @@ Status clsAFPFunctions::AnalyzeRecord()
         const FieldRow& row = Fields()[field_];
         AddElement(Element::Literal(Key::NodeText, row.NodeText));
         AddElement(Element::Literal(Key::SFName, row.SFName));
-        if (row.port != Port::None && FieldPosition < FieldEnd) AddElement(Element::Int16(Key::Unread, 1));
-        if (row.procedure != nullptr) row.procedure(*this);
+        if (row.body.port != Port::None && FieldPosition < FieldEnd) AddElement(Element::Int16(Key::Unread, 1));
+        DecodeBody(row.body);
     }
     // What a Begin field sets holds for its scope, so its net effect is one level more; an End's is one less.
     if (category == kBeginCategory) CodePages.HandDown();
     if (category == kEndCategory) CodePages.Pop();
     CodePages.Pop();
     return static_cast<Status>(recordFlags);
+}
+
+void clsAFPFunctions::DecodeBody(const FieldBody& body)
+{
+    if (body.procedure != nullptr) return body.procedure(*this);
+    ReadRows(*this, body.rows, FieldPosition, FieldEnd - FieldPosition + 1);
+    FieldPosition += body.pass;
+    if (body.then == Then::Triplets) AnalyzeTriplets(*this, FieldEnd);
+    if (body.then == Then::TripletGroups) AnalyzeTripletGroups(*this);
+}
+
+void clsAFPFunctions::FollowCodePage(std::int32_t page)
+{
+    if (!conversions_.LoadCodepage(page)) return;
+    CodePages.SetTop(page);
+    Pages.lngInputCPNOP = Pages.lngInputCPTLE = page;
 }
 
 // The last byte is the count of padding bytes; if it is 0, the two bytes before it are.
@@ -213,7 +227,7 @@ void clsAFPFunctions::AnalyzeSpecificRecord()
     CodePages.Push();
     PortDecoder decoder = nullptr;
     if (field_ != kFieldCount) {
-        switch (Fields()[field_].port) {
+        switch (Fields()[field_].body.port) {
         case Port::None: break;
         case Port::Sequences: decoder = ports_.Sequences; break;
         case Port::Fields: decoder = ports_.Fields; break;
@@ -224,10 +238,7 @@ void clsAFPFunctions::AnalyzeSpecificRecord()
     CodePages.Pop();
 }
 
-const std::string& clsAFPFunctions::IdentifierText()
-{
-    return identifierText_ = IdentifierTextOf(identifier_);
-}
+const std::string& clsAFPFunctions::IdentifierText() { return identifierText_ = IdentifierTextOf(identifier_); }
 
 const std::string& clsAFPFunctions::PreviousIdentifierText()
 {
