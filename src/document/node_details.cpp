@@ -11,15 +11,9 @@ constexpr std::size_t kMostBodyBytes = 16u << 20;
 
 }  // namespace
 
-FileFailure Document::RedirectOpenAFPFileRandom()
-{
-    return clsAFP_.OpenAFPFileRandom();
-}
+FileFailure Document::RedirectOpenAFPFileRandom() { return clsAFP_.OpenAFPFileRandom(); }
 
-void Document::RedirectCloseAFPFile()
-{
-    clsAFP_.CloseAFPFile();
-}
+void Document::RedirectCloseAFPFile() { clsAFP_.CloseAFPFile(); }
 
 std::int32_t Document::GetNodeContents_lngStart(std::uint32_t lngNodeCode) const
 {
@@ -85,8 +79,7 @@ std::string Document::GetNodeContents_strContent(std::uint32_t lngNodeCode)
 {
     const NodeRecord& node = tree_->Nodes()[lngNodeCode];
     std::string content;
-    if (node.head)
-        renderer_->AppendHeadLines(content, Fields()[node.field].SFName, node.lngStart, node.lngLength);
+    if (node.head) renderer_->AppendHeadLines(content, Fields()[node.field].SFName, node.lngStart, node.lngLength);
     if (!node.deferred || node.bolUnread) {
         tree_->AppendBody(content, lngNodeCode);
         return content;

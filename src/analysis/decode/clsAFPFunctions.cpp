@@ -137,8 +137,9 @@ Status clsAFPFunctions::CloseAFPFile()
 }
 
 // Where the record's bytes are and which field it is, as its length field and identifier say.
-void clsAFPFunctions::ReadIntroducer()
+void clsAFPFunctions::LookAtRecord()
 {
+    reached_ = 0;
     const std::int32_t start = reader_.RecordStart();
     FieldLength = reader_.FieldLength();
     FieldEnd = start + FieldLength - 1;
@@ -146,13 +147,33 @@ void clsAFPFunctions::ReadIntroducer()
     field_ = ByteAt(start + 2) == 0xD3 ? FindField(ByteAt(start + 3), ByteAt(start + 4)) : kFieldCount;
 }
 
+void clsAFPFunctions::PassRecord()
+{
+    previousIdentifier_ = identifier_;
+    identifier_ = static_cast<std::uint32_t>(ReadUnsigned(reader_.RecordStart() + 2, 3));
+}
+
+std::string_view clsAFPFunctions::RecordBytes(std::int32_t behind) const
+{
+    const auto buffer = reader_.RecordBuffer();
+    const auto from = static_cast<std::size_t>(reader_.RecordStart() - 1);
+    if (from >= buffer.size()) return {};
+    const auto length = static_cast<std::size_t>(reader_.FieldLength() + behind);
+    const auto bytes = buffer.subspan(from, std::min(length, buffer.size() - from));
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+bool clsAFPFunctions::ReadNoFurtherThan(std::int32_t behind) const
+{
+    return reached_ < std::int64_t{reader_.RecordStart()} + reader_.FieldLength() + behind;
+}
+
 Status clsAFPFunctions::AnalyzeRecord()
 {
-    ReadIntroducer();
+    LookAtRecord();
+    PassRecord();
     const std::int32_t start = reader_.RecordStart();
     const std::uint8_t category = ByteAt(start + 2) == 0xD3 ? ByteAt(start + 3) : 0;
-    previousIdentifier_ = identifier_;
-    identifier_ = static_cast<std::uint32_t>(ReadUnsigned(start + 2, 3));
     AddElement(Element::Int32(Key::SFStart, std::int64_t{reader_.BufferFilePos()} + start - 1));
     AddElement(Element::Int32(Key::SFLength, FieldLength));
 
@@ -223,7 +244,7 @@ void clsAFPFunctions::AddUnknown()
 
 void clsAFPFunctions::AnalyzeSpecificRecord()
 {
-    ReadIntroducer();
+    LookAtRecord();
     CodePages.Push();
     PortDecoder decoder = nullptr;
     if (field_ != kFieldCount) {
@@ -295,7 +316,7 @@ Element clsAFPFunctions::ReadTextCP(Key key, std::int32_t lngCodepage, std::int6
     if (first == second && (first == 0 || first == 0xFF))
         AppendUtf8(list_.Pool(), static_cast<char32_t>(first));
     else if (length > 0)
-        AppendText(Record(), lngCodepage, position, length);
+        AppendText(Reach(position + length - 1), lngCodepage, position, length);
     return list_.PooledText(key, from);
 }
 

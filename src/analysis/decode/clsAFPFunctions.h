@@ -66,6 +66,10 @@ public:
     Status GetNextRecord2(std::int32_t& lngProcessedBytes, bool bolReturnSF);
     FileFailure SetNextRecord(std::int32_t lngProcessedStart) { return reader_.SetNextRecord(lngProcessedStart); }
 
+    // Finds out which field the current record is, and where its bytes are. AnalyzeRecord begins with it.
+    void LookAtRecord();
+    // The current record will not be analysed: the next one follows it all the same.
+    void PassRecord();
     // The current record's Elements. Reads no file.
     Status AnalyzeRecord();
     // The Elements of the body that AnalyzeRecord left for later (Unread).
@@ -80,16 +84,27 @@ public:
     // The row of the current record's field in kFields; kFieldCount for one that isn't known.
     std::size_t Field() const { return field_; }
 
+    // The bytes of the current record from the length field on, and `behind` more; fewer at the end of the file.
+    std::string_view RecordBytes(std::int32_t behind) const;
+    // Whether its analysis has read no further than that: a short field reads what follows it.
+    bool ReadNoFurtherThan(std::int32_t behind) const;
+
     // For decoders -------------------------------------------------------------------------------------------------
 
     std::int32_t FieldPosition = 1;  // the next byte to read
     std::int32_t FieldEnd = 0;       // the record's last byte
     std::int32_t FieldLength = 0;    // bytes from the length field on, without padding
 
-    std::uint8_t ByteAt(std::int64_t position) const { return Record().At(position); }
-    std::int32_t ReadUnsigned(std::int64_t position, int length) const { return Record().Unsigned(position, length); }
-    std::int32_t ReadSigned(std::int64_t position, int length) const { return Record().Signed(position, length); }
-    bool ReadBit(std::int64_t position, int bit) const { return Record().Bit(position, bit); }
+    std::uint8_t ByteAt(std::int64_t position) const { return Reach(position).At(position); }
+    std::int32_t ReadUnsigned(std::int64_t position, int length) const
+    {
+        return Reach(position + length - 1).Unsigned(position, length);
+    }
+    std::int32_t ReadSigned(std::int64_t position, int length) const
+    {
+        return Reach(position + length - 1).Signed(position, length);
+    }
+    bool ReadBit(std::int64_t position, int bit) const { return Reach(position + bit / 8).Bit(position, bit); }
 
     void AddElement(const Element& element) { list_.AddElement(element); }
     void AddSequenceElement(const Element& element) { list_.AddSequenceElement(element); }
@@ -134,9 +149,13 @@ public:
 private:
     struct TextPage;
 
-    ByteView Record() const { return {reader_.RecordBuffer(), 1}; }
+    // The record buffer, for a read up to this position.
+    ByteView Reach(std::int64_t position) const
+    {
+        if (position > reached_) reached_ = position;
+        return {reader_.RecordBuffer(), 1};
+    }
     void AddFailure();
-    void ReadIntroducer();
     void TakePadding();
     void DecodeBody(const FieldBody& body);
     void AddUnknown();
@@ -150,6 +169,7 @@ private:
     const TextPage* lastTextPage_ = nullptr;
     DecodePorts ports_;
     std::size_t field_ = 0;
+    mutable std::int64_t reached_ = 0;  // the highest position that was read of the current record
     std::uint32_t identifier_ = 0, previousIdentifier_ = 0;
     std::string identifierText_, previousIdentifierText_;
 };

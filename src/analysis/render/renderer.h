@@ -20,12 +20,14 @@ namespace folioscope {
 struct UnitState {
     std::int16_t PageUnitsX = 1440, PageUnitsY = 1440;
     std::int16_t ObjectUnitsX = 1440, ObjectUnitsY = 1440;
+    bool operator==(const UnitState&) const = default;
 };
 
 // Line widths in inches, which outlive the record too.
 struct LineState {
     float NormalLineWidth = 1.0f / 120;
     float CurrentLineWidth = 1.0f / 120;
+    bool operator==(const LineState&) const = default;
 };
 
 // What one Element leaves for a later one of the same record.
