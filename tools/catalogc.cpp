@@ -81,9 +81,10 @@ std::vector<Row> Read(std::istream& in)
 std::string Quoted(std::string_view text)
 {
     std::string quoted = "\"";
-    for (const char c : text) {
-        if (c == '"') quoted += '\\';
-        quoted += c;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto pair = text.substr(i, 2);
+        if (text[i] == '"' || (text[i] == '\\' && pair != "\\r" && pair != "\\n")) quoted += '\\';
+        quoted += text[i];
     }
     return quoted + "\"";
 }

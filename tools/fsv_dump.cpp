@@ -1,9 +1,14 @@
 // fsv-dump: the dump, the tree and the messages of AFP files, in batch.
 
 #include <algorithm>
-#include <chrono>
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <fcntl.h>
+#include <new>
+#include <optional>
+#include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "base/text.h"
@@ -19,7 +24,7 @@ namespace {
 
 enum ExitStatus { kNoFaults = 0, kFaults = 1, kWrongUse = 2, kInputFailed = 3, kOutputFailed = 4 };
 
-volatile std::sig_atomic_t caught = 0;
+constexpr std::int64_t kLargeFile = 32 << 20;  // bytes; less is done before anybody looks
 
 struct FailureRow {
     int number;
@@ -44,60 +49,107 @@ Label TextOf(const FileFailure& failure)
     return kFailureTexts[1].text;
 }
 
-// Standard output. A reader that goes away ends the output, and that is no failure.
-class StandardOutput final : public DumpSink {
+// Standard output or standard error. A reader that goes away ends the output, and that is no failure.
+class StandardStream final : public DumpSink {
 public:
+    explicit StandardStream(int handle) : handle_(handle) {}
+
     FileFailure Write(std::string_view bytes) override
     {
-        while (!bytes.empty() && !closed_) {
-            const auto count = ::write(STDOUT_FILENO, bytes.data(), bytes.size());
-            if (count < 0 && errno == EINTR) continue;
-            if (count < 0 && errno != EPIPE) return FailureOf(errno);
-            if (count < 0)
-                closed_ = true;
-            else
+        while (!bytes.empty() && !failure_) {
+            const auto count = ::write(handle_, bytes.data(), bytes.size());
+            if (count >= 0)
                 bytes.remove_prefix(static_cast<std::size_t>(count));
+            else if (errno == EAGAIN)
+                WaitFor(handle_, POLLOUT);
+            else if (errno != EINTR)
+                Fail(errno);
         }
-        return closed_ ? kDeviceFailure : FileFailure{};
+        return failure_;
     }
-    bool Closed() const { return closed_; }
+    bool Ended() const { return static_cast<bool>(failure_); }
+    bool Failed() const { return Ended() && !closed_; }
 
 private:
+    void Fail(int systemError)
+    {
+        closed_ = systemError == EPIPE;
+        failure_ = FailureOf(systemError);
+    }
+
+    int handle_;
     bool closed_ = false;
+    FileFailure failure_;
+};
+
+volatile std::sig_atomic_t caught = 0;
+
+void Catch(int signal) { caught = signal; }
+
+// While it lives, the signals that end a program wait until a half-written file is cleared away. Then they end it.
+class HeldSignals {
+public:
+    HeldSignals()
+    {
+        struct sigaction action = {};
+        action.sa_handler = Catch;
+        for (std::size_t i = 0; i < std::size(kSignals); ++i) {
+            ::sigaction(kSignals[i], nullptr, &before_[i]);
+            if (before_[i].sa_handler != SIG_IGN) ::sigaction(kSignals[i], &action, nullptr);
+        }
+    }
+    HeldSignals(const HeldSignals&) = delete;
+    HeldSignals& operator=(const HeldSignals&) = delete;
+    ~HeldSignals()
+    {
+        for (std::size_t i = 0; i < std::size(kSignals); ++i) ::sigaction(kSignals[i], &before_[i], nullptr);
+        if (caught != 0) std::raise(caught);
+    }
+
+private:
+    static constexpr int kSignals[] = {SIGHUP, SIGINT, SIGQUIT, SIGTERM};
+    struct sigaction before_[std::size(kSignals)] = {};
 };
 
 // Shows a line of progress on a terminal, and turns a signal into the document's cancel flag.
 class TerminalHost final : public RunHost {
 public:
-    TerminalHost(std::string_view name, bool quiet) : name_(name), quiet_(quiet || ::isatty(STDERR_FILENO) == 0) {}
+    TerminalHost(const std::string& name, std::int64_t fileSize)
+        : name_(OnOneLine(name)), shows_(fileSize >= kLargeFile && ::isatty(STDERR_FILENO) == 1)
+    {
+    }
     ~TerminalHost() override { Wipe(); }
 
     Document* document = nullptr;
 
+    void KeepQuiet() { shows_ = false; }
+
     void OperationStarts(std::int64_t lngMaximum) override { maximum_ = std::max<std::int64_t>(lngMaximum, 1); }
-    void Progress(std::int64_t lngValue) override { value_ = lngValue; }
     void OperationEnds() override { Wipe(); }
     void GiveWay() override
     {
         if (caught != 0 && document != nullptr) document->SetOperationInteruptedFlag(true);
-        const auto now = std::chrono::steady_clock::now();
-        if (quiet_ || now < next_) return;
-        next_ = now + std::chrono::milliseconds(200);
-        shown_ = true;
-        std::fprintf(stderr, "\r%s: %d %%", name_.c_str(), static_cast<int>(value_ * 100 / maximum_));
+    }
+    void Progress(std::int64_t lngValue) override
+    {
+        const int percent = static_cast<int>(lngValue * 100 / maximum_);
+        if (!shows_ || percent == shown_) return;
+        shown_ = percent;
+        // A name that is too long for the line is cut off there: the terminal doesn't wrap meanwhile.
+        std::fprintf(stderr, "\r\33[?7l%3d %%  %s\33[?7h", percent, name_.c_str());
     }
 
 private:
     void Wipe()
     {
-        if (shown_) std::fprintf(stderr, "\r\33[K");
-        shown_ = false;
+        if (shown_ >= 0) std::fputs("\r\33[K", stderr);
+        shown_ = -1;
     }
 
     std::string name_;
-    bool quiet_, shown_ = false;
-    std::int64_t maximum_ = 1, value_ = 0;
-    std::chrono::steady_clock::time_point next_ = std::chrono::steady_clock::now() + std::chrono::milliseconds(500);
+    bool shows_;
+    int shown_ = -1;  // percent; -1: there is no line
+    std::int64_t maximum_ = 1;
 };
 
 // One line a node. Deep levels show their number in place of ever more blanks.
@@ -108,7 +160,7 @@ public:
     FileFailure Print()
     {
         FileFailure failure;
-        for (TreeWalk walk(tree_.Nodes()); !walk.AtEnd() && !failure && caught == 0; walk.Next()) {
+        for (TreeWalk walk(tree_.Nodes()); !walk.AtEnd() && !failure; walk.Next()) {
             PutNode(walk.Node(), walk.Depth());
             if (out_.size() >= kBuffer) failure = Flush();
         }
@@ -121,7 +173,7 @@ private:
 
     void PutNode(std::uint32_t node, std::uint32_t depth)
     {
-        out_.append(2 * std::min(depth, kDeepestIndented), ' ');
+        out_.append(std::size_t{2} * std::min(depth, kDeepestIndented), ' ');
         if (depth > kDeepestIndented) out_ += "[" + std::to_string(depth) + "] ";
         text_.clear();
         tree_.AppendNodeText(text_, node);
@@ -151,7 +203,7 @@ private:
 class Batch {
 public:
     explicit Batch(const DumpOptions& options)
-        : options_(options), labels_(options.settings.InterfaceLanguage())
+        : options_(options), labels_(options.settings.InterfaceLanguage()), inputs_(options.files)
     {
     }
 
@@ -160,120 +212,144 @@ public:
         int status = kNoFaults;
         for (const std::string& file : options_.files) {
             status = std::max(status, TakeFile(file));
-            if (caught != 0 || standardOutput_.Closed()) break;
+            if (standardOutput_.Ended()) break;
         }
-        return status;
+        return standardError_.Failed() ? int{kOutputFailed} : status;
     }
+
+    int Print(const std::string& text) { return OutputStatus(kStandardStream, standardOutput_.Write(text)); }
 
 private:
     int TakeFile(const std::string& file)
-    {
+    try {
+        const std::string path = OutputPath(file);
+        if (inputs_.Hold(path))
+            return Tell(path == kStandardStream ? file : path,
+                        U("This is the file to be read. It is never changed; choose another name."), kOutputFailed);
         DumpInput input;
-        if (const auto failure = input.Open(file)) return Tell(file, labels_[TextOf(failure)], kInputFailed);
+        if (const auto failure = input.Open(file)) return Tell(file, TextOf(failure), kInputFailed);
+        if (input.Size() == 0) return Tell(file, U("The file is empty."), kInputFailed);
         MessageList messages;
-        TerminalHost host(file, options_.messages);
+        TerminalHost host(file, input.Size());
         Document document(options_.settings, NumberStyle(), messages, host);
         host.document = &document;
-        if (!document.ProcessAFPFile(input.Path(), input.Spooled() ? std::string_view(file) : std::string_view()) ||
-            document.Outcome() == RunOutcome::ReadFailed)
+        if (!document.ProcessAFPFile(input.Path(), input.ShownName()) || document.Outcome() == RunOutcome::ReadFailed)
             return Tell(file, WhyNot(document), kInputFailed);
-        const int status = Write(file, document);
+        if (path == kStandardStream && ::isatty(STDOUT_FILENO) == 1) host.KeepQuiet();
+        const int status = Write(file, path, document);
         if (options_.messages) PrintMessages(file, messages);
+        if (document.SFCount() == 0)
+            return Tell(file, U("No structured field was found. Check that this is an AFP file."),
+                        std::max<int>(status, kFaults));
         return std::max(status, messages.HasFaults() ? int{kFaults} : int{kNoFaults});
+    } catch (const std::bad_alloc&) {
+        return Tell(file, U("There is not enough memory for this file."), kInputFailed);
     }
 
-    std::string_view WhyNot(const Document& document) const
+    std::string OutputPath(const std::string& file) const
+    {
+        if (options_.save) return file + ".txt";
+        return options_.output.empty() ? kStandardStream : options_.output;
+    }
+
+    static Label WhyNot(const Document& document)
     {
         if (document.Outcome() == RunOutcome::TooBig)
-            return labels_[U("The file is larger than 2,147,483,647 bytes. Split it, and dump the parts.")];
-        return labels_[TextOf(document.Failure())];
+            return U("The file is larger than 2,147,483,647 bytes. Split it, and dump the parts.");
+        return TextOf(document.Failure());
     }
 
-    int Write(const std::string& file, Document& document)
+    int Write(const std::string& file, const std::string& path, Document& document)
     {
-        if (options_.tree) return Outcome("-", file, {{}, TreePrinter(document, standardOutput_).Print(), false, 0});
-        if (!options_.save && options_.output.empty())
-            return Outcome("-", file, document.WriteDump(standardOutput_, DumpEncoding::Utf8));
-        const std::string path = options_.save ? file + ".txt" : options_.output;
-        if (IsSameFile(path, file)) return Tell(path, labels_[U("This is the file to be read. It is never changed; choose another name.")], kOutputFailed);
-        DumpFile output;
+        if (options_.tree) return OutputStatus(path, TreePrinter(document, standardOutput_).Print());
+        const DumpResult result = path != kStandardStream ? WriteFile(path, document)
+                                  : options_.output.empty()
+                                      ? document.WriteDump(standardOutput_, DumpEncoding::Utf8)
+                                      : document.WriteDump(standardOutput_, DumpEncoding::SystemPage);
+        if (result.input) return Tell(file, TextOf(result.input), kInputFailed);
+        return OutputStatus(path, result.output);
+    }
+
+    static DumpResult WriteFile(const std::string& path, Document& document)
+    {
+        // What isn't replaced but written straight leaves nothing behind, and may keep the program waiting for long.
+        struct stat status = {};
+        const bool straight = ::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode);
+        std::optional<HeldSignals> held;
+        if (!straight) held.emplace();
+        DumpFile file;
         DumpResult result;
-        result.output = output.Create(path);
-        if (!result.output) result = document.WriteDump(output, DumpEncoding::SystemPage);
-        if (result.Whole()) result.output = output.Commit();
-        return Outcome(path, file, result);
+        result.output = file.Create(path);
+        if (!result.output) result = document.WriteDump(file, DumpEncoding::SystemPage);
+        if (result.Whole()) result.output = file.Commit();
+        return result;
     }
 
-    int Outcome(const std::string& path, const std::string& file, const DumpResult& result)
+    int OutputStatus(const std::string& path, const FileFailure& failure)
     {
-        if (result.input) return Tell(file, labels_[TextOf(result.input)], kInputFailed);
-        if (result.output && !standardOutput_.Closed()) return Tell(path, labels_[TextOf(result.output)], kOutputFailed);
-        return kNoFaults;
+        if (!failure || (path == kStandardStream && !standardOutput_.Failed())) return kNoFaults;
+        if (path != kStandardStream) return Tell(path, TextOf(failure), kOutputFailed);
+        return Tell(std::string(labels_[U("standard output")]), TextOf(failure), kOutputFailed);
     }
 
-    int Tell(std::string_view file, std::string_view text, int status) const
+    int Tell(const std::string& name, Label text, int status)
     {
-        std::fprintf(stderr, "%.*s: %.*s\n", static_cast<int>(file.size()), file.data(), static_cast<int>(text.size()),
-                     text.data());
+        standardError_.Write(OnOneLine(name) + ": " + std::string(labels_[text]) + "\n");
         return status;
     }
 
-    void PrintMessages(const std::string& file, const MessageList& messages) const
+    void PrintMessages(const std::string& file, const MessageList& messages)
     {
+        constexpr std::size_t kBuffer = 64u << 10;
+        const std::string behind = options_.files.size() > 1 ? '\t' + OnOneLine(file) + '\n' : "\n";
         std::string out;
-        for (std::size_t i = 0; i < messages.Size(); ++i) {
+        for (std::size_t i = 0; i < messages.Size() && !standardError_.Ended(); ++i) {
             out += NameOf(messages[i].source);
             out += '\t';
             out += NameOf(messages[i].severity);
             out += '\t';
             out += OnOneLine(messages.Description(messages[i]));
-            if (options_.files.size() > 1) out += '\t' + file;
-            out += '\n';
-            if (out.size() < 65'536 && i + 1 < messages.Size()) continue;
-            std::fwrite(out.data(), 1, out.size(), stderr);
+            out += behind;
+            if (out.size() < kBuffer && i + 1 < messages.Size()) continue;
+            standardError_.Write(out);
             out.clear();
         }
     }
 
     const DumpOptions& options_;
     Labels labels_;
-    StandardOutput standardOutput_;
+    InputFiles inputs_;
+    StandardStream standardOutput_{STDOUT_FILENO}, standardError_{STDERR_FILENO};
 };
 
-void Catch(int signal)
+// A standard stream that the caller has closed would be the next file that is opened, and get what isn't meant for it.
+// In its place stands one that can't be used.
+void HoldStandardStreams()
 {
-    caught = signal;
+    for (const int handle : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (::fcntl(handle, F_GETFD) < 0) static_cast<void>(::open("/dev/null", handle == 0 ? O_WRONLY : O_RDONLY));
 }
 
 int Main(int argc, char** argv)
 {
-    std::signal(SIGPIPE, SIG_IGN);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) std::signal(signal, Catch);
+    HoldStandardStreams();
+    // Both are told by the write that fails.
+    for (const int signal : {SIGPIPE, SIGXFSZ}) std::signal(signal, SIG_IGN);
     const DumpOptions options = ParseOptions(argc, argv);
     const Labels labels(options.settings.InterfaceLanguage());
     if (!options.fault.empty()) {
-        std::fprintf(stderr, "fsv-dump: %s\n%.*s\n", options.fault.c_str(),
-                     static_cast<int>(labels[U("Try fsv-dump --help.")].size()), labels[U("Try fsv-dump --help.")].data());
+        const std::string text = "fsv-dump: " + options.fault + "\n" + std::string(labels[U("Try fsv-dump --help.")]);
+        std::fprintf(stderr, "%s\n", text.c_str());
         return kWrongUse;
     }
-    if (options.help || options.version) {
-        const std::string text = options.help ? HelpText(labels) : "fsv-dump " + std::string(kVersion) + "\n";
-        return std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0 ? kNoFaults : kOutputFailed;
-    }
-    const int status = Batch(options).Run();
-    if (caught != 0) {
-        // The caller wants to see what has ended the program.
-        std::signal(caught, SIG_DFL);
-        std::raise(caught);
-    }
-    return status;
+    Batch batch(options);
+    if (options.help) return batch.Print(HelpText(labels));
+    if (options.version) return batch.Print("fsv-dump " + std::string(kVersion) + "\n");
+    return batch.Run();
 }
 
 }  // namespace
 
 }  // namespace folioscope
 
-int main(int argc, char** argv)
-{
-    return folioscope::Main(argc, argv);
-}
+int main(int argc, char** argv) { return folioscope::Main(argc, argv); }

@@ -27,6 +27,9 @@ struct Settings {
     std::int32_t MessageWindow = 1;
     std::int32_t UseAutoRotation = 1;
 
+    // The width of a line of width 1, in inches.
+    float LineWidth() const { return static_cast<float>(NormalLineWidth != 0 ? 1.0 / 120 : 1.0 / 100); }
+
     folioscope::Language InterfaceLanguage() const { return LanguageOf(Language); }
     folioscope::Language AnalysisLanguage() const { return LanguageOf(TechnicalEnglish == 1 ? 1 : Language); }
 

@@ -1,9 +1,39 @@
 #include "base/text.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
 namespace folioscope {
+
+namespace {
+
+constexpr char32_t kNoCharacter = 0xFFFD;
+
+// Takes the first character off a text that isn't empty. A byte that isn't part of well-formed UTF-8 is U+FFFD.
+char32_t TakeCharacter(std::string_view& text)
+{
+    const std::size_t size = std::min(Utf8Step(text.front()), text.size());
+    char32_t character = static_cast<unsigned char>(text.front());
+    if (size > 1) character &= 0x7Fu >> size;
+    for (const char c : text.substr(1, size - 1)) character = character << 6 | (static_cast<unsigned char>(c) & 0x3F);
+    std::string again;
+    AppendUtf8(again, character);
+    const bool wellFormed = again == text.substr(0, size);
+    text.remove_prefix(wellFormed ? size : 1);
+    return wellFormed ? character : kNoCharacter;
+}
+
+// What has no picture and would still act on a terminal or break a line is U+FFFD.
+char32_t PictureOf(char32_t character)
+{
+    if (character < 0x20) return 0x2400 + character;
+    if (character == 0x7F) return 0x2421;
+    const bool acts = (character >= 0x80 && character < 0xA0) || character == 0x2028 || character == 0x2029;
+    return acts ? kNoCharacter : character;
+}
+
+}  // namespace
 
 void AppendUtf8(std::string& out, char32_t character)
 {
@@ -60,17 +90,21 @@ void ChangeString(std::string& text, std::string_view what, std::string_view wit
     if (const auto at = text.find(what); at != std::string::npos) text.replace(at, what.size(), with);
 }
 
+std::string WellFormed(std::string_view text)
+{
+    std::string whole;
+    while (!text.empty()) AppendUtf8(whole, TakeCharacter(text));
+    return whole;
+}
+
 std::string OnOneLine(std::string_view text)
 {
     std::string line;
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte < 0x20)
-            AppendUtf8(line, 0x2400 + byte);
-        else if (byte == 0x7F)
-            AppendUtf8(line, 0x2421);
-        else
-            line += c;
+    while (!text.empty()) {
+        const auto plain = std::find_if_not(text.begin(), text.end(), [](char c) { return c >= ' ' && c < 0x7F; });
+        line.append(text.begin(), plain);
+        text.remove_prefix(static_cast<std::size_t>(plain - text.begin()));
+        if (!text.empty()) AppendUtf8(line, PictureOf(TakeCharacter(text)));
     }
     return line;
 }

@@ -22,7 +22,11 @@ std::string_view TrimBlanks(std::string_view text);
 // Replaces the first occurrence of `what`, which is how placeholders are filled.
 void ChangeString(std::string& text, std::string_view what, std::string_view with);
 
-// One line for a terminal or a list: control characters are shown as their pictures (U+2400 and on).
+// The text with U+FFFD in place of each byte that isn't part of well-formed UTF-8.
+std::string WellFormed(std::string_view text);
+
+// One line for a terminal or a list: control characters are shown as their pictures (U+2400 and on). U+FFFD stands for
+// those that have none (U+0080 to U+009F, U+2028, U+2029) and for bytes that aren't part of well-formed UTF-8.
 std::string OnOneLine(std::string_view text);
 
 }  // namespace folioscope

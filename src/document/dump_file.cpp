@@ -47,7 +47,7 @@ FileFailure DumpFile::Create(const std::string& path)
     handle_ = ::mkostemp(writtenPath_.data(), O_CLOEXEC);
     if (handle_ < 0) {
         writtenPath_.clear();
-        return FailureOf(errno);
+        return errno == ENOENT ? kPathNotFound : FailureOf(errno);
     }
     if (::fchmod(handle_, exists ? status.st_mode & 07777 : NewFileMode()) != 0) return Fail(errno);
     return {};

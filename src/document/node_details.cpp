@@ -46,6 +46,7 @@ FileFailure Document::ReadBody(std::uint32_t node, std::string& body)
     if (clsAFP_.List().Elements().empty()) return {};
     PropertyText& text = renderer_->text;
     renderer_->IndentText.clear();
+    renderer_->nodeText = Fields()[record.field].NodeText;
     text.Clear();
     text.Pass(renderer_->HeadLinesLength(Fields()[record.field].SFName, record.lngStart, record.lngLength));
     text.Append(body);

@@ -28,7 +28,6 @@ bool Document::ProcessAFPFile(const std::string& strAFPFile, std::string_view sh
     const std::string fileName = std::filesystem::path(strAFPFile).filename().string();
     tree_->AddRoot(shownName.empty() ? fileName : shownName,
                    RootText(shownName.empty() ? strAFPFile : std::string(shownName)));
-    host_.OperationStarts(clsAFP_.Reader().FileSize());
     Walk();
     FinishRun();
     return true;
@@ -36,6 +35,8 @@ bool Document::ProcessAFPFile(const std::string& strAFPFile, std::string_view sh
 
 bool Document::OpenFile(const std::string& strAFPFile)
 {
+    clsAFP_.InitializeProcessing2(strAFPFile, {settings_.Codepage, settings_.CodepageNOP, settings_.CodepageTLE,
+                                               kSystemCodePage, settings_.CodePageAutoDetect == 1});
     std::error_code error;
     const auto status = std::filesystem::status(strAFPFile, error);
     if (status.type() == std::filesystem::file_type::not_found) {
@@ -48,14 +49,15 @@ bool Document::OpenFile(const std::string& strAFPFile)
         Refuse(RunOutcome::TooBig, "File too big", "Files over 2 GB are not supported.");
         return false;
     }
-    clsAFP_.InitializeProcessing2(strAFPFile, {settings_.Codepage, settings_.CodepageNOP, settings_.CodepageTLE,
-                                               kSystemCodePage, settings_.CodePageAutoDetect == 1});
     clsAFP_.Reader().onScan = [this](std::int32_t lngProcessedBytes) {
         lngProcessedBytes_ = lngProcessedBytes;
         TellProgress();
         return !bolOperationInterupted_;
     };
+    // The search for the first record can be a long way already.
+    host_.OperationStarts(error ? 0 : static_cast<std::int64_t>(size));
     if (clsAFP_.OpenAFPFile() != kFailure) return true;
+    host_.OperationEnds();
     ReportFailure(RunOutcome::OpenFailed, clsAFP_.Reader().Failure());
     clsAFP_.CloseAFPFile();
     return false;

@@ -163,7 +163,8 @@ private:
                 return true;
             }
         }
-        if (!opened_) {
+        // Whoever reads a node while the dump gives way closes the file behind it.
+        if (!document_.clsAFP_.Reader().IsOpen()) {
             result_.input = document_.RedirectOpenAFPFileRandom();
             if (result_.input) return false;
             opened_ = true;

@@ -10,7 +10,7 @@ void TextStore::Clear()
 {
     blocks_.clear();
     table_.assign(1024, kNoText);
-    count_ = 0;
+    count_ = bytes_ = 0;
     used_ = kBlockUnits;
 }
 
@@ -43,10 +43,11 @@ TextPlace TextStore::Append(std::string_view text, std::uint32_t hash)
 {
     const std::size_t units = (sizeof(Header) + text.size() + kUnit - 1) / kUnit;
     if (used_ + units > kBlockUnits) {
-        // The first unit of the first block is never given away, since place 0 means no text. A text that is longer
-        // than a block gets its own, and the places it covers stay unused.
-        blocks_.push_back(
-            std::make_unique_for_overwrite<char[]>((units > kBlockUnits ? units + 1 : kBlockUnits) * kUnit));
+        // The first unit of the first block is never given away, since place 0 means no text. A text that fills a block
+        // gets its own, and the places it covers beyond stay unused.
+        const std::size_t size = (units < kBlockUnits ? kBlockUnits : units + 1) * kUnit;
+        blocks_.push_back(std::make_unique_for_overwrite<char[]>(size));
+        bytes_ += size;
         used_ = blocks_.size() == 1 ? 1 : 0;
     }
     const auto place = static_cast<TextPlace>((blocks_.size() - 1) * kBlockUnits + used_);
@@ -72,7 +73,7 @@ void TextStore::Grow()
 
 std::size_t TextStore::BytesUsed() const
 {
-    return blocks_.size() * kBlockUnits * kUnit + table_.size() * sizeof(TextPlace);
+    return bytes_ + table_.size() * sizeof(TextPlace);
 }
 
 }  // namespace folioscope

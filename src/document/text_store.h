@@ -43,7 +43,8 @@ private:
     std::vector<std::unique_ptr<char[]>> blocks_;
     std::vector<TextPlace> table_;  // open addressing, a power of two, at most three quarters full
     std::size_t count_ = 0;
-    std::size_t used_ = 0;  // units of the last block
+    std::size_t used_ = 0;   // units of the last block
+    std::size_t bytes_ = 0;  // of all blocks
 };
 
 }  // namespace folioscope

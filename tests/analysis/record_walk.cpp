@@ -18,12 +18,9 @@ constexpr std::string_view kTagNames[] = {"Int16", "Int32",   "Float32", "Float6
 
 }  // namespace
 
-std::string_view NameOf(Key key)
-{
-    return kKeyNames[static_cast<std::size_t>(key)];
-}
+std::string_view NameOf(Key key) { return kKeyNames[static_cast<std::size_t>(key)]; }
 
-std::string LineOf(const ElementList& list, const Element& element)
+std::string DescriptionOf(const ElementList& list, const Element& element)
 {
     std::string line(kTagNames[static_cast<std::size_t>(element.tag)]);
     line += ' ';
@@ -42,7 +39,7 @@ std::string LineOf(const ElementList& list, const Element& element)
 std::vector<std::string> LinesOf(const ElementList& list)
 {
     std::vector<std::string> lines;
-    for (const Element& element : list.Elements()) lines.push_back(LineOf(list, element));
+    for (const Element& element : list.Elements()) lines.push_back(DescriptionOf(list, element));
     return lines;
 }
 
@@ -55,7 +52,7 @@ std::vector<std::string> BodyOf(const ElementList& list)
         case Key::SFLength:
         case Key::NodeText:
         case Key::SFName: break;
-        default: lines.push_back(LineOf(list, element));
+        default: lines.push_back(DescriptionOf(list, element));
         }
     }
     return lines;

@@ -14,7 +14,7 @@ namespace folioscope::test {
 std::string_view NameOf(Key key);
 
 // One line an Element: "Int32 SFStart 2", "Text Name PAGE0001", "Boolean Unknown 1".
-std::string LineOf(const ElementList& list, const Element& element);
+std::string DescriptionOf(const ElementList& list, const Element& element);
 std::vector<std::string> LinesOf(const ElementList& list);
 // The same without the four Elements that head every known record: SFStart, SFLength, NodeText, SFName.
 std::vector<std::string> BodyOf(const ElementList& list);

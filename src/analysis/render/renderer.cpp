@@ -87,11 +87,10 @@ void Renderer::RenderElement(const Element& element)
 
 void Renderer::RenderWords(const LineRow& row, const Element& element)
 {
-    const Word* found = nullptr;
-    for (const Word& word : row.words)
-        if (word.value == element.number) found = &word;
-    if (found == nullptr && row.other == Other::Last) found = &row.words.back();
-    if (found != nullptr) {
+    auto found = std::find_if(row.words.begin(), row.words.end(),
+                              [&](const Word& word) { return word.value == element.number; });
+    if (found == row.words.end() && row.other == Other::Last) --found;
+    if (found != row.words.end()) {
         std::string& out = BeginLine(row.label);
         out += Say(found->text);
         out += Say(found->more);
