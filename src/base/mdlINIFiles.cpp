@@ -139,7 +139,6 @@ std::vector<std::string> GetKeyList(std::string_view strFilename, std::string_vi
         if (entry->key.empty() || room <= 1) break;
         const auto key = FirstCharacters(entry->key, room - 1);
         if (!key.empty()) keys.emplace_back(key);
-        if (key.size() < entry->key.size()) break;
         room -= Utf16Length(key) + 1;
     }
     return keys;

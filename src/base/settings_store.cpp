@@ -75,8 +75,7 @@ bool HasSetting(const clsSillyFunctions& store, std::string_view name)
 bool IsFirstStart(const clsSillyFunctions& store)
 {
     constexpr std::string_view kAsked[] = {kConfirmed, "Codepage", "TechnicalEnglish"};
-    return store.TestRegistryKey(kSettingsKey) != 0 ||
-           !std::ranges::all_of(kAsked, [&](std::string_view name) { return HasSetting(store, name); });
+    return !std::ranges::all_of(kAsked, [&](std::string_view name) { return HasSetting(store, name); });
 }
 
 double ReadWindowValue(const clsSillyFunctions& store, std::string_view name, Screen screen)

@@ -52,7 +52,7 @@ void HandOnOwner(int handle, const struct stat& old)
 
 int WriteNewFile(const std::string& path, std::string_view text, mode_t mode, const struct stat* old)
 {
-    constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW;
+    constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
     Handle file(::open(path.c_str(), kFlags, old != nullptr ? 0600 : mode));
     if (file.Number() < 0) return errno;
     if (old != nullptr) HandOnOwner(file.Number(), *old);

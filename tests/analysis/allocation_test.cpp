@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <new>
 #include <string>
+#include <vector>
 
 #include "analysis/record_walk.h"
 #include "analysis/render/renderer.h"
@@ -36,7 +37,6 @@ namespace {
 
 using test::AfpFile;
 using test::Bytes;
-using test::Ebcdic;
 using test::Ebcdic8;
 using test::Raw;
 using test::RecordWalk;

@@ -107,7 +107,7 @@ TEST_F(IniFile, TheLimitCountsCharactersNotBytes)
     std::string umlauts;
     for (int i = 0; i < 2048; ++i) umlauts += "\xC3\xA4";
     folder.File("a.ini", "[a]\nk=" + umlauts + "\n");
-    EXPECT_EQ(Value("a", "k"), umlauts.substr(0, 2 * 2047));
+    EXPECT_EQ(Value("a", "k"), umlauts.substr(0, std::size_t{2} * 2047));
 }
 
 TEST_F(IniFile, ListsTheKeysInOrder)
@@ -142,6 +142,15 @@ TEST_F(IniFile, TheListHasRoomFor4096CharactersWithItsEnds)
     EXPECT_EQ(GetKeyList(path, "a"), names);
     folder.File("a.ini", lines + std::string(90, 'e') + "=\nf=\n");
     EXPECT_EQ(GetKeyList(path, "a"), names);
+}
+
+TEST_F(IniFile, ANameThatDoesNotFitEndsTheListEvenIfTheNextWould)
+{
+    const std::string face = "\xF0\x9F\x98\x80";  // two characters
+    folder.File("a.ini", "[a]\n" + std::string(4091, 'a') + "=\n" + face + face + "=\nb=\n");
+    EXPECT_EQ(GetKeyList(path, "a"), (Names{std::string(4091, 'a'), face}));
+    folder.File("a.ini", "[a]\n" + std::string(4090, 'a') + "=\n" + face + face + "=\nb=\n");
+    EXPECT_EQ(GetKeyList(path, "a"), (Names{std::string(4090, 'a'), face}));
 }
 
 TEST_F(IniFile, AWriteReplacesTheValueAlone)

@@ -45,6 +45,7 @@ TEST(RegistrySafety, SeveralProcessesLoseNoValue)
     const test::TemporaryFolder folder;
     const std::string path = folder / "sub/registry.ini";
     std::vector<pid_t> children;
+    children.reserve(kChildren);
     for (int child = 0; child < kChildren; ++child) {
         children.push_back(test::StartChild([&path, child] {
             mdlRegistry registry(path);

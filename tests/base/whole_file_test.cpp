@@ -211,6 +211,7 @@ TEST(FileLock, IsHeldAgainstOtherProcesses)
     const test::TemporaryFolder folder;
     const std::string path = folder.File("count", "0");
     std::vector<pid_t> children;
+    children.reserve(kChildren);
     for (int i = 0; i < kChildren; ++i) {
         children.push_back(test::StartChild([&] {
             for (int round = 0; round < kRounds; ++round) {

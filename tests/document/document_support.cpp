@@ -32,9 +32,10 @@ void DecodeTwiceAsWideText(clsAFPFunctions& afp)
 
 }  // namespace
 
-std::size_t TestHost::CountOf(std::string_view call) const
+std::size_t TestHost::CountOf(std::string_view start) const
 {
-    return static_cast<std::size_t>(std::count(calls.begin(), calls.end(), call));
+    return static_cast<std::size_t>(
+        std::count_if(calls.begin(), calls.end(), [&](const std::string& call) { return call.starts_with(start); }));
 }
 
 std::vector<std::string> LinesOf(const MessageList& messages)

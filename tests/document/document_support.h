@@ -46,7 +46,7 @@ public:
         boxes.push_back({icon, std::string(title), std::string(text)});
     }
 
-    std::size_t CountOf(std::string_view call) const;
+    std::size_t CountOf(std::string_view start) const;  // calls that start so
 
     std::vector<std::string> calls;
     std::vector<std::int64_t> progress;

@@ -174,6 +174,7 @@ void ExpectRefusal(TestDocument& doc, RunOutcome outcome, const std::string& tex
     EXPECT_EQ(doc.host.boxes[0].icon, BoxIcon::Stop);
     EXPECT_EQ(doc.host.boxes[0].title, "Stop");
     EXPECT_EQ(doc.host.boxes[0].text, text);
+    EXPECT_EQ(doc.host.CountOf("starts"), doc.host.CountOf("ends"));
     EXPECT_EQ(doc.host.CountOf("finished"), 0u);
     EXPECT_EQ(doc.messages.Size(), 0u);
 }

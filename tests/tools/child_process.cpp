@@ -81,7 +81,8 @@ void SetOutput(int handle, const std::string& file, int given, const Pipe& pipe)
     Need(call.folder.empty() || ::chdir(call.folder.c_str()) == 0);
     Limit(RLIMIT_AS, call.mostMemory);
     Limit(RLIMIT_FSIZE, call.longestFile);
-    std::signal(SIGPIPE, SIG_DFL);
+    // A test may run where some are ignored, as in the background of a script.
+    for (const int signal : {SIGHUP, SIGINT, SIGPIPE, SIGQUIT, SIGTERM, SIGXFSZ}) std::signal(signal, SIG_DFL);
     if (call.ignoredSignal != 0) std::signal(call.ignoredSignal, SIG_IGN);
     const auto words = Pointers(call.words);
     if (call.environment) {

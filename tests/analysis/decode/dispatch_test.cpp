@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <map>
 #include <set>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "analysis/field_names.h"
@@ -20,7 +20,6 @@ using test::AfpFile;
 using test::Bytes;
 using test::FieldName;
 using test::kFieldNames;
-using test::Packaging;
 using test::Raw;
 using test::RecordWalk;
 
@@ -49,14 +48,21 @@ TEST(Fields, HaveAllShortAndLongNames)
     }
 }
 
+std::string_view SFNameOf(std::string_view shortName)
+{
+    for (const FieldRow& row : Fields())
+        if (row.NodeText == shortName) return row.SFName;
+    return {};
+}
+
 TEST(Fields, KeepTheUnevenLongNames)
 {
-    EXPECT_EQ(LongNameOf("LND"), "LND (Line Descriptor, x'D3 A6 E7)");
-    EXPECT_EQ(LongNameOf("IDD"), "IDD (Image Data Descriptor, 'D3 A6 FB')");
-    EXPECT_EQ(LongNameOf("MCF-1"), "MCF-1 (Map Coded Font [Older Format 1], x'D3 B1 8A')");
-    EXPECT_EQ(LongNameOf("MCF-2"), "MCF (Map Coded Font [Newer Format 2], x'D3 AB 8A')");
-    EXPECT_EQ(LongNameOf("PGP-1"), "PGP-1 (Page Position [Older Format 1], x'D3 AC AF')");
-    EXPECT_EQ(LongNameOf("PGP-2"), "PGP (Page Position [Newer Format 2], x'D3 B1 AF')");
+    EXPECT_EQ(SFNameOf("LND"), "LND (Line Descriptor, x'D3 A6 E7)");
+    EXPECT_EQ(SFNameOf("IDD"), "IDD (Image Data Descriptor, 'D3 A6 FB')");
+    EXPECT_EQ(SFNameOf("MCF-1"), "MCF-1 (Map Coded Font [Older Format 1], x'D3 B1 8A')");
+    EXPECT_EQ(SFNameOf("MCF-2"), "MCF (Map Coded Font [Newer Format 2], x'D3 AB 8A')");
+    EXPECT_EQ(SFNameOf("PGP-1"), "PGP-1 (Page Position [Older Format 1], x'D3 AC AF')");
+    EXPECT_EQ(SFNameOf("PGP-2"), "PGP (Page Position [Newer Format 2], x'D3 B1 AF')");
 }
 
 TEST(Fields, HaveDifferentShortNames)

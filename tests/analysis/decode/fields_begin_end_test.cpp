@@ -8,7 +8,6 @@
 
 #include "analysis/field_names.h"
 #include "analysis/record_walk.h"
-#include "base/text.h"
 
 namespace folioscope {
 namespace {

@@ -3,8 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
-
-#include "base/text.h"
+#include <string_view>
 
 namespace folioscope {
 namespace {
