@@ -80,13 +80,16 @@ void DecodeERG(clsAFPFunctions& afp)
     DecodeNamed(afp);
 }
 
+// The resource goes by its name with all its blanks.
 void DecodeBRS(clsAFPFunctions& afp)
 {
     afp.Triplets.resourceType = 0;
     DecodeNamedReserved(afp);
-    const std::string& name = afp.Resources.formMap = afp.Resources.name;
+    afp.Resources.formMap = afp.Resources.name;
+    const Element* given = afp.List().Find(Key::Name);
+    const std::string name(given != nullptr ? afp.List().TextOf(*given) : std::string_view(afp.Resources.name));
     const int type = afp.Triplets.resourceType;
-    AddInternalResource(afp, type, name, type == 0 || name.size() < 2 ? name : name.substr(2));
+    AddInternalResource(afp, type, name, type == 0 ? std::string_view(name) : WithoutKind(name));
 }
 
 void DecodeBNG(clsAFPFunctions& afp)

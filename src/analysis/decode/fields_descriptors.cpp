@@ -100,7 +100,7 @@ void ClearNames(TripletState& state)
 // A mapped name counts from its third character on: the first two tell its kind.
 void AddMapped(clsAFPFunctions& afp, ResourceKind kind, const std::string& mapped)
 {
-    AddExternalResource(afp, kind, mapped.size() > 2 ? std::string_view(mapped).substr(2) : std::string_view());
+    AddExternalResource(afp, kind, WithoutKind(mapped));
 }
 
 }  // namespace
@@ -158,7 +158,13 @@ void DecodeIPG(clsAFPFunctions& afp)
 
 void DecodeIMM(clsAFPFunctions& afp) { DecodeIncluded(afp, ResourceKind::MediumMapCall, {}, 8); }
 
-void DecodeIDM(clsAFPFunctions& afp) { DecodeIncluded(afp, ResourceKind::DataMapCall, {}, 8); }
+// The only field whose name is in the page in force.
+void DecodeIDM(clsAFPFunctions& afp)
+{
+    ReadName(afp, afp.CurrentCodePage());
+    AddExternalResource(afp, ResourceKind::DataMapCall, afp.Resources.name);
+    ShowName(afp, afp.Resources.name);
+}
 
 void DecodeMCF1(clsAFPFunctions& afp)
 {

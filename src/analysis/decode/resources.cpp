@@ -1,5 +1,6 @@
 #include "analysis/decode/resources.h"
 
+#include <algorithm>
 #include <string>
 
 #include "analysis/decode/clsAFPFunctions.h"
@@ -10,7 +11,7 @@ namespace folioscope {
 
 namespace {
 
-constexpr std::int32_t kNamePage = 500, kNameLength = 8;
+constexpr std::int32_t kNameLength = 8;
 
 void AddResource(clsAFPFunctions& afp, int kind, char scope, std::string_view key, std::string_view name)
 {
@@ -50,9 +51,17 @@ void ShowName(clsAFPFunctions& afp, std::string_view name)
     afp.AddElement(afp.List().PooledText(Key::ShowResName, from));
 }
 
-void ReadName(clsAFPFunctions& afp)
+std::string_view WithoutKind(std::string_view name)
 {
-    const Element name = afp.ReadTextCP(Key::Name, kNamePage, afp.FieldPosition, kNameLength);
+    constexpr int kKindCharacters = 2;
+    for (int i = 0; i < kKindCharacters && !name.empty(); ++i)
+        name.remove_prefix(std::min(Utf8Step(name.front()), name.size()));
+    return name;
+}
+
+void ReadName(clsAFPFunctions& afp, std::int32_t lngCodepage)
+{
+    const Element name = afp.ReadTextCP(Key::Name, lngCodepage, afp.FieldPosition, kNameLength);
     afp.AddElement(name);
     afp.Resources.name = TrimBlanks(afp.List().TextOf(name));
 }

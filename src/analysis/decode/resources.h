@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 namespace folioscope {
@@ -29,7 +30,10 @@ void AddExternalResource(clsAFPFunctions& afp, ResourceKind kind, std::string_vi
 // Adds ShowResName with the name for the tree.
 void ShowName(clsAFPFunctions& afp, std::string_view name);
 
-// Adds Name, 8 bytes in page 500 at FieldPosition, and keeps it trimmed as the resource name.
-void ReadName(clsAFPFunctions& afp);
+// A resource's name from its third character on: the first two tell its kind.
+std::string_view WithoutKind(std::string_view name);
+
+// Adds Name, 8 bytes at FieldPosition, and keeps it trimmed as the resource name.
+void ReadName(clsAFPFunctions& afp, std::int32_t lngCodepage = 500);
 
 }  // namespace folioscope

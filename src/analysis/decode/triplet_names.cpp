@@ -20,12 +20,16 @@ constexpr std::uint8_t kAttributeName = 0x0B;
 // The page in which a name is read.
 enum class Page : std::uint8_t { Current, CurrentOrUnicode, TLE, P437, P500 };
 
+// How a name is summed up: not at all, as it is, or as the tree shows it.
+enum class NameSummary : std::uint8_t { None, AsRead, Shown };
+
 // Names of this type and format x'00': how they are read, and what FQNFormat says of them.
 struct NameRow {
     std::uint8_t type;
     Page page;
     std::uint8_t format;
     bool hexToo;
+    NameSummary summary = NameSummary::Shown;
 };
 
 struct NameTypeRow {
@@ -44,15 +48,15 @@ constexpr NameRow kNames[] = {
     {0x01, Page::CurrentOrUnicode, 1, false},
     {0xCA, Page::CurrentOrUnicode, 1, false},
     {0xDE, Page::CurrentOrUnicode, 1, false},
-    {0xCE, Page::P500,             3, false},
-    {0x41, Page::P437,             3, false},
+    {0xCE, Page::P500,             3, false, NameSummary::None},
+    {0x41, Page::P437,             3, false, NameSummary::None},
     {0x85, Page::Current,          1, true},
     {0x86, Page::Current,          1, true},
     {0x8D, Page::Current,          1, true},
     {0x8E, Page::Current,          1, true},
     {0xBE, Page::Current,          1, true},
 };
-constexpr NameRow kOtherName = {0, Page::P500, 1, true};
+constexpr NameRow kOtherName = {0, Page::P500, 1, true, NameSummary::AsRead};
 
 constexpr NameTypeRow kNameTypes[] = {
     {0x01, "x'01' (Replace First GID Name)"},
@@ -176,7 +180,9 @@ void AddCharacterName(clsAFPFunctions& afp, std::uint8_t type, std::int32_t at, 
     if (row.hexToo) afp.AddElement(afp.ReadHex(Key::HexCode, at, length));
     const std::string name = ShownName(afp.List().TextOf(content));
     KeepName(afp, type, name);
-    AddText(afp, Key::ShowTripletContent, "FQN: ", name);
+    if (row.summary == NameSummary::None) return;
+    AddText(afp, Key::ShowTripletContent, "FQN: ",
+            row.summary == NameSummary::Shown ? std::string_view(name) : afp.List().TextOf(content));
 }
 
 void AddObjectIdName(clsAFPFunctions& afp, std::int32_t at, std::int32_t length)

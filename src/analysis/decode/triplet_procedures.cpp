@@ -304,7 +304,7 @@ void DecodeLocaleSelector(clsAFPFunctions& afp, TripletPlace place)
     const std::uint8_t flags = afp.ByteAt(place.start + 3);
     afp.AddElement(Element::Byte(Key::LocLangFlag, static_cast<std::uint8_t>((flags & 0x70) / 16)));
     ReadRows(afp, kLocaleCodes, place.start, place.length);
-    afp.AddElement(Element::Byte(Key::LocRegionFlag, flags & 0x07));
+    if (place.length > 3) afp.AddElement(Element::Byte(Key::LocRegionFlag, flags & 0x07));
     ReadRows(afp, kLocaleRegion, place.start, place.length);
 }
 

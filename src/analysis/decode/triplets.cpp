@@ -190,7 +190,7 @@ constexpr TripletRow kTriplets[] = {
     {0x25, "x'25' (Resource Section Number)", kSectionNumber, nullptr, Summary::Number, "Font Section: "},
     {0x26, "x'26' (Character Rotation)", kCharacterRotation, nullptr, Summary::Degrees, "Char rotation: "},
     {0x27, "x'27' (Line Data Object Positioning Migration)", kObjectOrientation, SummarizeOrientation},
-    {0x2D, "x'2D' (Object Byte Offset)", {}, DecodeByteOffset, Summary::Number, "Object offset: "},
+    {0x2D, "x'2D' (Object Byte Offset)", {}, DecodeByteOffset, Summary::Count, "Object offset: "},
     {0x36, "x'36' (Attribute Value)", {}, DecodeAttributeValue},
     {0x43, "x'43' (Descriptor Position)", kDescriptorPosition, nullptr, Summary::Number, "Object area SF: "},
     {0x45, "x'45' (Media Eject Control)", kMediaEject, nullptr, Summary::Text, "Media ejection"},
@@ -278,8 +278,11 @@ void AddSummary(clsAFPFunctions& afp, const TripletRow& row, std::size_t firstKe
     std::string& pool = afp.List().Pool();
     const auto from = pool.size();
     pool += row.summaryText;
-    if (value.tag == Tag::Float64)
-        AppendFormatted(pool, value.real, Picture::Grouped, NumberStyle());
+    const bool real = value.tag == Tag::Float64;
+    if (row.summary == Summary::Count)
+        AppendFormatted(pool, real ? value.real : static_cast<double>(value.number), Picture::Grouped, NumberStyle());
+    else if (real)
+        AppendNumber(pool, value.real, NumberStyle());
     else
         AppendNumber(pool, value.number);
     if (row.summary == Summary::Degrees) pool += "°";

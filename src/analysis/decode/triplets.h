@@ -18,7 +18,7 @@ struct TripletPlace {
 };
 
 // What a triplet says in a word or two, for a tree that wants to show it.
-enum class Summary : std::uint8_t { None, Text, Number, Degrees };
+enum class Summary : std::uint8_t { None, Text, Number, Count, Degrees };
 
 // One triplet. The rows come first, then the procedure.
 struct TripletRow {

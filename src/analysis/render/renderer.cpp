@@ -61,7 +61,7 @@ void Renderer::RenderElement(const Element& element)
         out += Say(row->label);
         out += ":\t";
         out += kBold;
-        if (const auto value = TextOf(element); !IsNotGiven(value)) out += value;
+        if (!IsNotGiven(TextOf(element))) AppendValue(out, element);
         out += kNormal;
         return EndLine();
     }

@@ -57,16 +57,15 @@ TEST(MCF1, HasARotationInGroupsOfThirtyBytes)
 
 TEST(MCF1, HasARotationIfTheGroupIsLongEnough)
 {
-    const auto of = [](std::string_view length, std::string_view byte) {
-        return ValuesOf(ShowRecord({"MCF-1", Pieces(std::string(length) + " 00*3 " + std::string(kFont) + ' ' +
-                                                    std::string(byte) + " 00*3")}),
-                        "CharRotation");
+    const auto of = [](unsigned length, unsigned byte) {
+        const Bytes group = Pieces(kFont) + U1(byte) + Zeros(10);
+        return ValuesOf(ShowRecord({"MCF-1", U1(length) + Zeros(3) + group.substr(0, length)}), "CharRotation");
     };
-    EXPECT_EQ(of("1C", "2D"), Lines{});
-    EXPECT_EQ(of("1D", "2D"), Lines{});
-    EXPECT_EQ(of("1E", "2D"), Lines{"90"});
-    EXPECT_EQ(of("1F", "2D"), Lines{"90"});
-    EXPECT_EQ(of("1E", "2E"), Lines{});
+    EXPECT_EQ(of(28, 0x2D), Lines{});
+    EXPECT_EQ(of(29, 0x2D), Lines{});
+    EXPECT_EQ(of(30, 0x2D), Lines{"90"});
+    EXPECT_EQ(of(31, 0x2D), Lines{"90"});
+    EXPECT_EQ(of(30, 0x2E), Lines{});
 }
 
 TEST(MCF1, OfAGroupLengthOfZeroHasOneGroup)

@@ -44,7 +44,8 @@ TEST(TLE, WithoutAValueIsCaptionedByTheNameAlone)
 {
     EXPECT_EQ(CaptionOf(TripletOf("02 0B 00 'Account'")), Lines{"Account"});
     EXPECT_EQ(CaptionOf(TripletOf("36 0000 '4711'")), Lines{" -> 4711"});
-    EXPECT_EQ(CaptionOf(TripletOf("02 0B 00 'Account'") + TripletOf("36 0000")), Lines{"Account -> "});
+    EXPECT_EQ(CaptionOf(TripletOf("02 0B 00 'Account'") + TripletOf("36 0000") + TripletOf("81 01")),
+              Lines{"Account -> "});
     EXPECT_EQ(CaptionOf(""), Lines{""});
 }
 

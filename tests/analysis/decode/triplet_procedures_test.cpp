@@ -126,8 +126,8 @@ TEST(OffsetTriplets, AreLongFromOneByteMoreOn)
 {
     EXPECT_EQ(ValuesOfTriplet("57 FFFFFFFF 00", "ObjectBytes"), Lines{"4294967295"});
     EXPECT_EQ(ValuesOfTriplet("5A AF 00 FFFFFFFF 00", "ObjectOffset"), Lines{"4294967295"});
-    // The length alone decides, not the bytes.
-    EXPECT_EQ(ValuesOf(ShowCut("2D FFFFFFFF", 5), "IndexedObjOutside").size(), 1u);
+    // The length alone decides; the four bytes are read even from behind a shorter triplet.
+    EXPECT_EQ(ValuesOf(ShowTriplets(Raw({0x05, 0x2D, 0xFF, 0xFF, 0xFF, 0xFF})), "IndexedObjOutside"), Lines{"True"});
 }
 
 TEST(OffsetTriplets, AreSummedUp)
@@ -430,7 +430,8 @@ TEST(OptionalKeys, OfAResourceInclude)
 TEST(OptionalKeys, OfALocale)
 {
     ExpectKeysByLength("8C 00 2B <language> <script..> <region..> 00*8 <variant>",
-                       {{4, "LocLangFlag LocScriptFlag LocRegionFlag"},
+                       {{2, "LocLangFlag"},
+                        {4, "LocLangFlag LocScriptFlag LocRegionFlag"},
                         {12, "LocLangFlag LocLangCode LocScriptFlag LocRegionFlag"},
                         {20, "LocLangFlag LocLangCode LocScriptFlag LocScriptCode LocRegionFlag"},
                         {28, "LocLangFlag LocLangCode LocScriptFlag LocScriptCode LocRegionFlag LocRegionCode"},

@@ -29,8 +29,8 @@ struct StringSink final : DumpSink {
     std::string text;
 };
 
-struct Run {
-    Run(const AfpFile& file, const Settings& settings)
+struct RunOfFile {
+    RunOfFile(const AfpFile& file, const Settings& settings)
         : document(settings, {}, messages, host)
     {
         EXPECT_TRUE(document.ProcessAFPFile(folder.File("input.afp", file.Content())));
@@ -61,7 +61,8 @@ Settings Plain()
 
 AfpFile Includes()
 {
-    const auto name = [](std::string_view text) { return Ebcdic8(text) + Zeros(20); };
+    // Name, reserved byte, kind of the object, and the rest.
+    const auto name = [](std::string_view text) { return Ebcdic8(text) + Raw({0, 0xFB}) + Zeros(18); };
     return AfpFile()
         .Add("IMM", Ebcdic8("MAP"))
         .Add("IOB", name("OBJECT"))
@@ -69,11 +70,11 @@ AfpFile Includes()
         .Add("IPO", name("OVERLAY"))
         .Add("IPS", name("SEGMENT"))
         .Add("IDM", Ebcdic8("DATAMAP"))
-        .Add("IOB", Zeros(28))
+        .Add("IOB", Zeros(8) + Raw({0, 0xFB}) + Zeros(18))
         .Add("IPS", Ebcdic(" A B    ") + Zeros(20));
 }
 
-std::vector<std::string> Captions(const Run& run, std::uint32_t count)
+std::vector<std::string> Captions(const RunOfFile& run, std::uint32_t count)
 {
     std::vector<std::string> captions;
     for (std::uint32_t node = 1; node <= count; ++node) captions.push_back(run.Node(node));
@@ -82,7 +83,7 @@ std::vector<std::string> Captions(const Run& run, std::uint32_t count)
 
 TEST(Captions, OfIncludesHaveTheirNames)
 {
-    const Run run(Includes(), Plain());
+    const RunOfFile run(Includes(), Plain());
     EXPECT_EQ(Captions(run, 8),
               (std::vector<std::string>{"IMM: MAP", "IOB: OBJECT", "IPG: PAGE", "IPO: OVERLAY", "IPS: SEGMENT", "IDM",
                                         "IOB", "IPS: A B"}));
@@ -92,7 +93,7 @@ TEST(Captions, OfIncludesCanDoWithoutNames)
 {
     Settings settings = Plain();
     settings.ShowIISF = 0;
-    const Run run(Includes(), settings);
+    const RunOfFile run(Includes(), settings);
     EXPECT_EQ(Captions(run, 6), (std::vector<std::string>{"IMM", "IOB", "IPG", "IPO", "IPS", "IDM"}));
 }
 
@@ -100,7 +101,7 @@ TEST(Captions, OfIncludesGoByTheirOwnSetting)
 {
     Settings settings = Plain();
     settings.ShowBESF = settings.ShowNOP = 0;
-    const Run run(Includes(), settings);
+    const RunOfFile run(Includes(), settings);
     EXPECT_EQ(run.Node(1), "IMM: MAP");
 }
 
@@ -112,15 +113,15 @@ AfpFile Attribute()
 
 TEST(Captions, OfAttributesHaveNameAndValue)
 {
-    EXPECT_EQ(Run(Attribute(), Plain()).Node(1), "TLE: Account -> 4711");
+    EXPECT_EQ(RunOfFile(Attribute(), Plain()).Node(1), "TLE: Account -> 4711");
     Settings settings = Plain();
     settings.ShowNOP = 0;
-    EXPECT_EQ(Run(Attribute(), settings).Node(1), "TLE");
+    EXPECT_EQ(RunOfFile(Attribute(), settings).Node(1), "TLE");
 }
 
 TEST(Captions, AreRedForAnUnknownTriplet)
 {
-    const Run run(AfpFile().Add("OBD", Triplet(0x9E, Raw({1}))), Plain());
+    const RunOfFile run(AfpFile().Add("OBD", Triplet(0x9E, Raw({1}))), Plain());
     EXPECT_EQ(run.Node(1), "<color=clred>OBD");
     ASSERT_EQ(run.messages.Size(), 1u);
     EXPECT_EQ(run.messages.Description(run.messages[0]), "Triplet: Unknown");
@@ -128,13 +129,13 @@ TEST(Captions, AreRedForAnUnknownTriplet)
 
 TEST(Dump, ShowsTheTripletsOfAnAttribute)
 {
-    const auto file = AfpFile().Add("BDT").Add("BPG", Ebcdic8("PAGE0001") + Zeros(0)).Add(
+    const auto file = AfpFile().Add("BDT").Add("BPG", Ebcdic8("PAGE0001")).Add(
         "TLE", Triplet(0x02, Raw({0x0B, 0x00}) + Ebcdic("Account")) +
                    Triplet(0x36, Raw({0x00, 0x00}) + Ebcdic("4711")));
-    Run run(file, {});
+    RunOfFile run(file, {});
     const std::string dump = run.Dump();
     EXPECT_TRUE(dump.ends_with("     ---------\n"
-                               ">>\tTLE: Account -> 4711\tTriplet:\tx'02' (Fully Qualified Name)\n"
+                               ">>\tTLE\tTriplet:\tx'02' (Fully Qualified Name)\n"
                                ">>\t\t\tName subtype: x'0B' (Attribute GID)\n"
                                ">>\t\t\tGID format: Character string\n"
                                ">>\t\t\tContent:\tAccount\n"
@@ -144,10 +145,10 @@ TEST(Dump, ShowsTheTripletsOfAnAttribute)
         << dump;
 }
 
-TEST(Dump, ShowsALineDataMapOnItsPage)
+TEST(Dump, ShowsTheNameOfAPage)
 {
-    Run run(AfpFile().Add("BPG", Ebcdic8("PAGE0001")), Plain());
-    EXPECT_TRUE(run.Dump().ends_with("     ---------\n>\tBPG: PAGE0001\tName:\tPAGE0001\n")) << run.Dump();
+    RunOfFile run(AfpFile().Add("BPG", Ebcdic8("PAGE0001")), Plain());
+    EXPECT_TRUE(run.Dump().ends_with("     ---------\n>\tBPG\tName:\tPAGE0001\n")) << run.Dump();
 }
 
 }  // namespace

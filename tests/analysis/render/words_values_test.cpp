@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cctype>
 #include <ostream>
 #include <set>
 #include <string>
@@ -362,9 +361,9 @@ TEST_P(EachCodedValue, IsTranslatedIfTheCatalogHasIt)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Values, EachCodedValue, testing::ValuesIn(kCases), [](const auto& info) {
-    return std::string(NameOf(info.param.key));
-});
+std::string NameOfCase(const testing::TestParamInfo<WordsCase>& info) { return std::string(NameOf(info.param.key)); }
+
+INSTANTIATE_TEST_SUITE_P(Values, EachCodedValue, testing::ValuesIn(kCases), NameOfCase);
 
 TEST(CodedValues, AreAllHere)
 {
