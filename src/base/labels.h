@@ -35,15 +35,10 @@ template <std::size_t N> consteval Label FindLabel(const CatalogKey (&keys)[N], 
 
 }  // namespace detail
 
-// A text of the analysis or of the interface, quoted by its English wording. One that the catalog lacks doesn't compile.
-consteval Label L(std::string_view english)
-{
-    return detail::FindLabel(kAnalysisLabels, english);
-}
-consteval Label U(std::string_view english)
-{
-    return detail::FindLabel(kInterfaceLabels, english);
-}
+// A text of the analysis or of the interface, quoted by its English wording. One that the catalog lacks doesn't
+// compile.
+consteval Label L(std::string_view english) { return detail::FindLabel(kAnalysisLabels, english); }
+consteval Label U(std::string_view english) { return detail::FindLabel(kInterfaceLabels, english); }
 
 std::string_view TextOf(Label label, Language language);
 

@@ -61,7 +61,8 @@ Decimal DecimalOf(double value, int significant)
     decimal.negative = value < 0;
     std::array<char, 40> text;  // d.ddddE+xx
     const auto end = std::to_chars(text.data(), text.data() + text.size(), std::fabs(value),
-                                   std::chars_format::scientific, significant - 1).ptr;
+                                   std::chars_format::scientific, significant - 1)
+                         .ptr;
     const auto mark = std::find(text.data(), end, 'e');
     std::from_chars(mark[1] == '+' ? mark + 2 : mark + 1, end, decimal.exponent);
     ++decimal.exponent;

@@ -14,16 +14,16 @@ struct NumberStyle {
 
 // How a number is laid out. Pictures that differ only in the count of optional leading digits are one.
 enum class Picture : std::uint8_t {
-    Grouped,         // #,##0 and all its longer forms
-    GroupedThree,    // #,000: at least three digits
-    Signed,          // +##,##0;-##,##0;0
-    Plus,            // +#,##0: the plus is a literal, so that -5 gives -+5
-    UpToFour,        // #,##0.#### (leaves the separator behind a whole number)
-    One,             // 0.0
-    OneToTwo,        // 0.0#
-    OneToThree,      // 0.0## and #0.0##
-    OneToFour,       // 0.0###
-    TwoToFour,       // 0.00##
+    Grouped,       // #,##0 and all its longer forms
+    GroupedThree,  // #,000: at least three digits
+    Signed,        // +##,##0;-##,##0;0
+    Plus,          // +#,##0: the plus is a literal, so that -5 gives -+5
+    UpToFour,      // #,##0.#### (leaves the separator behind a whole number)
+    One,           // 0.0
+    OneToTwo,      // 0.0#
+    OneToThree,    // 0.0## and #0.0##
+    OneToFour,     // 0.0###
+    TwoToFour,     // 0.00##
 };
 
 // Rounds half away from zero at the last shown digit, on the decimal digits of the value: all digits of an

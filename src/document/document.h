@@ -14,17 +14,18 @@
 #include "document/dump_sink.h"
 #include "document/messages.h"
 #include "document/ports.h"
+#include "document/record_memo.h"
 #include "document/run_host.h"
 #include "document/structure_tree.h"
 
 namespace folioscope {
 
 enum class RunOutcome : std::uint8_t {
-    Walked,       // to the end, or to where the user stopped it
-    Missing,      // no such file
-    TooBig,       // 2 GB and more
-    OpenFailed,   // Failure() tells why
-    ReadFailed,   // the same; the tree holds what came before
+    Walked,      // to the end, or to where the user stopped it
+    Missing,     // no such file
+    TooBig,      // 2 GB and more
+    OpenFailed,  // Failure() tells why
+    ReadFailed,  // the same; the tree holds what came before
 };
 
 enum class DumpEncoding : std::uint8_t {
@@ -57,6 +58,9 @@ public:
     bool GetOperationInteruptedFlag() const { return bolOperationInterupted_; }
     void SetOperationInteruptedFlag(bool interrupt) { bolOperationInterupted_ = interrupt; }
 
+    // Whether records that come again are told from memory, which is the default. It changes nothing but the speed.
+    void TellRepeatedFromMemory(bool remember) { remembers_ = remember; }
+
     std::int32_t SFCount() const { return lngSFCount_; }
     const StructureTree& Tree() const { return *tree_; }
     MessageList& Messages() { return messages_; }
@@ -88,6 +92,9 @@ private:
     std::string RootText(const std::string& strAFPFile) const;
     void Walk();
     void TakeRecord();
+    bool RecallRecord();
+    void AnalyzeAndRender();
+    MemoState StateNow() const;
     void AppendIntroducerNotes();
     void TellProgress();
     void FinishRun();
@@ -101,6 +108,8 @@ private:
     clsAFPFunctions clsAFP_;
     std::unique_ptr<StructureTree> tree_;
     std::unique_ptr<Renderer> renderer_;
+    RecordMemo memo_;
+    bool remembers_ = true;
     RunOutcome outcome_ = RunOutcome::Walked;
     FileFailure failure_;
     bool bolProcessing_ = false, bolOperationInterupted_ = false;

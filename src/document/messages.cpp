@@ -11,15 +11,9 @@ constexpr std::array<std::string_view, 4> kSeverities = {"I", "W", "E", "F"};
 
 }  // namespace
 
-std::string_view NameOf(MessageSource source)
-{
-    return kSources[static_cast<std::size_t>(source)];
-}
+std::string_view NameOf(MessageSource source) { return kSources[static_cast<std::size_t>(source)]; }
 
-std::string_view NameOf(MessageSeverity severity)
-{
-    return kSeverities[static_cast<std::size_t>(severity)];
-}
+std::string_view NameOf(MessageSeverity severity) { return kSeverities[static_cast<std::size_t>(severity)]; }
 
 void MessageList::addMessage(MessageSource source, MessageSeverity severity, std::string_view strDescription,
                              bool bolHighlight)
@@ -44,10 +38,7 @@ void MessageList::ShowWithBeep()
     bolBeeped_ = true;
 }
 
-void MessageList::Dismiss()
-{
-    bolHasNew_ = bolBeeped_ = false;
-}
+void MessageList::Dismiss() { bolHasNew_ = bolBeeped_ = false; }
 
 void MessageList::Clear()
 {

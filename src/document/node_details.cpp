@@ -11,15 +11,9 @@ constexpr std::size_t kMostBodyBytes = 16u << 20;
 
 }  // namespace
 
-FileFailure Document::RedirectOpenAFPFileRandom()
-{
-    return clsAFP_.OpenAFPFileRandom();
-}
+FileFailure Document::RedirectOpenAFPFileRandom() { return clsAFP_.OpenAFPFileRandom(); }
 
-void Document::RedirectCloseAFPFile()
-{
-    clsAFP_.CloseAFPFile();
-}
+void Document::RedirectCloseAFPFile() { clsAFP_.CloseAFPFile(); }
 
 std::int32_t Document::GetNodeContents_lngStart(std::uint32_t lngNodeCode) const
 {
@@ -52,6 +46,7 @@ FileFailure Document::ReadBody(std::uint32_t node, std::string& body)
     if (clsAFP_.List().Elements().empty()) return {};
     PropertyText& text = renderer_->text;
     renderer_->IndentText.clear();
+    renderer_->nodeText = Fields()[record.field].NodeText;
     text.Clear();
     text.Pass(renderer_->HeadLinesLength(Fields()[record.field].SFName, record.lngStart, record.lngLength));
     text.Append(body);
@@ -85,8 +80,7 @@ std::string Document::GetNodeContents_strContent(std::uint32_t lngNodeCode)
 {
     const NodeRecord& node = tree_->Nodes()[lngNodeCode];
     std::string content;
-    if (node.head)
-        renderer_->AppendHeadLines(content, Fields()[node.field].SFName, node.lngStart, node.lngLength);
+    if (node.head) renderer_->AppendHeadLines(content, Fields()[node.field].SFName, node.lngStart, node.lngLength);
     if (!node.deferred || node.bolUnread) {
         tree_->AppendBody(content, lngNodeCode);
         return content;

@@ -20,8 +20,8 @@ struct NodeRecord {
     std::uint8_t image = 0;
 
     bool folder : 1 = false;
-    bool bolUnread : 1 = false;   // the body wasn't read yet
-    bool deferred : 1 = false;    // the body is made from the file whenever it is asked for
+    bool bolUnread : 1 = false;  // the body wasn't read yet
+    bool deferred : 1 = false;   // the body is made from the file whenever it is asked for
     bool red : 1 = false;
     bool head : 1 = false;        // the three head lines precede the stored text
     bool titled : 1 = false;      // a folder that has the title of its Begin field
@@ -98,7 +98,8 @@ public:
         const std::uint32_t next = node_ + 1;
         if (next < nodes_.Size()) {
             const std::uint32_t parent = nodes_[next].parent;
-            if (parent == node_) ++depth_;
+            if (parent == node_)
+                ++depth_;
             else
                 for (std::uint32_t at = node_; nodes_[at].parent != parent; at = nodes_[at].parent) --depth_;
         }

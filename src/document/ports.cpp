@@ -2,9 +2,6 @@
 
 namespace folioscope {
 
-DecodePorts DecodersOfDeferredBodies()
-{
-    return {};
-}
+DecodePorts DecodersOfDeferredBodies() { return {}; }
 
 }  // namespace folioscope

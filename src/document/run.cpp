@@ -138,7 +138,49 @@ void Document::TellProgress()
                                                                           : lngProcessedBytes_ + kProgressEvery;
 }
 
+// A record whose equal was seen before is told from memory; others are decoded, and remembered if they may come again.
 void Document::TakeRecord()
+{
+    clsAFP_.LookAtRecord();
+    const std::string_view bytes = clsAFP_.RecordBytes(RecordMemo::kBehind);
+    if (!remembers_ || !RecordMemo::Repeats(clsAFP_.Field(), bytes.size())) return AnalyzeAndRender();
+    const MemoState before = StateNow();
+    memo_.Ask(bytes, before);
+    if (RecallRecord()) return;
+    const std::uint64_t faults = tree_->Faults();
+    AnalyzeAndRender();
+    MemoState after = StateNow();
+    after.units = before.units;
+    after.lines = before.lines;
+    const NodeRecord& node = tree_->Nodes()[tree_->Current()];
+    if (tree_->Faults() == faults && after == before && clsAFP_.ReadNoFurtherThan(RecordMemo::kBehind))
+        memo_.Learn(tree_->CurrentStatus(), renderer_->units, renderer_->lines, node);
+}
+
+bool Document::RecallRecord()
+{
+    const RecordMemo::Entry* entry = memo_.Answer();
+    if (entry == nullptr) return false;
+    clsAFP_.PassRecord();
+    tree_->AddNodes(entry->status, clsAFP_.Field());
+    tree_->StoreRepeated(entry->node, clsAFP_.FilePosition(clsAFP_.Reader().RecordStart()));
+    renderer_->units = entry->units;
+    renderer_->lines = entry->lines;
+    return true;
+}
+
+MemoState Document::StateNow() const
+{
+    return {renderer_->units,
+            renderer_->lines,
+            clsAFP_.CurrentCodePage(),
+            clsAFP_.Pages.lngInputCPNOP,
+            clsAFP_.Pages.lngInputCPTLE,
+            clsAFP_.Triplets.colorManagement,
+            clsAFP_.Triplets.metadata};
+}
+
+void Document::AnalyzeAndRender()
 {
     renderer_->text.Clear();
     renderer_->IndentText.clear();

@@ -173,6 +173,16 @@ void StructureTree::StoreNodeRecord(std::string_view body, bool head, std::int32
     node.content = texts_.Keep(body);
 }
 
+void StructureTree::StoreRepeated(const NodeRecord& like, std::int32_t lngStart)
+{
+    NodeRecord& node = nodes_[nodCurrent_];
+    const std::uint32_t parent = node.parent, end = node.end;
+    node = like;
+    node.parent = parent;
+    node.end = end;
+    node.lngStart = lngStart;
+}
+
 void StructureTree::CloseFolder(Status status)
 {
     if (status != kEnd || nodParent_ == NodeStore::kRoot) return;
@@ -234,7 +244,8 @@ void StructureTree::CheckPair(std::string_view shortName)
     }
     begin = begin.substr(0, shortName.size());
     if (begin.size() == shortName.size() && begin.substr(1) == shortName.substr(1)) return;
-    std::string message(interfaceLabels_[U("Structured Field %1 does not match to a corresponding Begin Structured Field!")]);
+    std::string message(
+        interfaceLabels_[U("Structured Field %1 does not match to a corresponding Begin Structured Field!")]);
     ChangeString(message, "%1", shortName);
     messages_.addMessage(MessageSource::Structure, MessageSeverity::Error, message, true);
     MarkNodeInvalid();
@@ -268,15 +279,13 @@ void StructureTree::AppendName(std::uint32_t node, std::string_view name)
     record.caption = texts_.Keep(text);
 }
 
-void StructureTree::SetUnread()
-{
-    nodes_[nodCurrent_].bolUnread = nodes_[nodCurrent_].deferred = true;
-}
+void StructureTree::SetUnread() { nodes_[nodCurrent_].bolUnread = nodes_[nodCurrent_].deferred = true; }
 
 // Ancestors of a red node are red, so that a path is climbed once.
 void StructureTree::MarkNodeInvalid()
 {
     if (!heard_) return;
+    ++faults_;
     for (std::uint32_t node = nodCurrent_; node != 0 && !nodes_[node].red; node = nodes_[node].parent) Mark(node);
 }
 

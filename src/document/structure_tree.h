@@ -38,6 +38,8 @@ public:
     bool AddNodes(Status status, std::size_t field);
     // Keeps the text of the current leaf. `head`: the three head lines precede it.
     void StoreNodeRecord(std::string_view body, bool head, std::int32_t lngStart, std::int32_t lngLength);
+    // The current leaf came to the same as another one before it.
+    void StoreRepeated(const NodeRecord& like, std::int32_t lngStart);
     // Behind an End: the folder that it closes is the current node, and its parent the folder for what follows.
     void CloseFolder(Status status);
     // The records that are rendered now belong to this node; `heard`: their faults are new.
@@ -64,6 +66,8 @@ public:
     // The short name of the leaf's field, empty for one that isn't known.
     std::string_view ShortName(std::uint32_t node) const;
 
+    Status CurrentStatus() const { return status_; }
+    std::uint64_t Faults() const { return faults_; }  // how often a fault was told or marked
     std::int32_t PageCount() const { return lngPageCount_; }
     const std::deque<std::uint32_t>& PageEnds() const { return lngPageEnds_; }  // the leaves of the EPG records
 
@@ -86,6 +90,7 @@ private:
     std::uint32_t nodCurrent_ = 0, nodParent_ = 0;
     Status status_ = kNothing;
     bool heard_ = true;
+    std::uint64_t faults_ = 0;
     bool bolInResourceGroup_ = false, bolPreviewEnabled_ = false;
     std::int32_t lngPageCount_ = 0;
     std::deque<std::uint32_t> lngPageEnds_;

@@ -142,7 +142,8 @@ private:
     bool PutNameBlock(std::uint32_t node, std::uint32_t depth)
     {
         const auto [label, name] = tree_.NameLine(node);
-        if (name.find(kMarker.front()) != std::string_view::npos || name.find('\r') != std::string_view::npos) return false;
+        if (name.find(kMarker.front()) != std::string_view::npos || name.find('\r') != std::string_view::npos)
+            return false;
         PutBlockHead(depth);
         PutNodeName(node);
         buffer_ += '\t';
@@ -259,7 +260,8 @@ void Document::SaveDump(const std::string& strSaveName)
     if (const auto failure = file.Commit(); !result.output) result.output = failure;
     if (result.output || result.input) {
         const FileFailure& failure = result.output ? result.output : result.input;
-        std::string number, text(interface[U("An error occured while creating the export file:\r\nError: %1\r\nFile: %2")]);
+        std::string number,
+            text(interface[U("An error occured while creating the export file:\r\nError: %1\r\nFile: %2")]);
         AppendNumber(number, std::int64_t{failure.number});
         number += ", ";
         number += failure.description;

@@ -2,29 +2,9 @@
 
 #include <cstring>
 
+#include "base/hash.h"
+
 namespace folioscope {
-
-namespace {
-
-std::uint32_t HashOf(std::string_view text)
-{
-    // Eight bytes a step: names and descriptors are short, contents can be long.
-    std::uint64_t hash = 0x9E3779B97F4A7C15u ^ text.size();
-    const char* at = text.data();
-    std::size_t left = text.size();
-    for (; left >= 8; at += 8, left -= 8) {
-        std::uint64_t piece;
-        std::memcpy(&piece, at, 8);
-        hash = (hash ^ piece) * 0xD6E8FEB86659FD93u;
-        hash ^= hash >> 32;
-    }
-    std::uint64_t rest = 0;
-    if (left > 0) std::memcpy(&rest, at, left);
-    hash = (hash ^ rest) * 0xD6E8FEB86659FD93u;
-    return static_cast<std::uint32_t>(hash ^ hash >> 32);
-}
-
-}  // namespace
 
 void TextStore::Clear()
 {

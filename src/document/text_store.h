@@ -35,7 +35,10 @@ private:
     TextPlace Append(std::string_view text, std::uint32_t hash);
     void Grow();
 
-    const char* Bytes(TextPlace place) const { return blocks_[place / kBlockUnits].get() + place % kBlockUnits * kUnit; }
+    const char* Bytes(TextPlace place) const
+    {
+        return blocks_[place / kBlockUnits].get() + place % kBlockUnits * kUnit;
+    }
 
     std::vector<std::unique_ptr<char[]>> blocks_;
     std::vector<TextPlace> table_;  // open addressing, a power of two, at most three quarters full

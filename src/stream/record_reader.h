@@ -52,7 +52,12 @@ public:
 
     Status OpenAFPFile();
     Status GetNextRecord2();
-    FileFailure OpenAFPFileRandom() { return file_.Open(strAFPFile_); }
+    // The file may have changed since its bytes were read, so none of them are trusted.
+    FileFailure OpenAFPFileRandom()
+    {
+        astray_ = true;
+        return file_.Open(strAFPFile_);
+    }
     bool IsOpen() const { return file_.IsOpen(); }
     // Makes the record whose length field is at this file position the current one. Fails if the file has lost
     // bytes of it since the walk.
@@ -89,7 +94,6 @@ private:
     bool SkipNoise();
     std::int32_t NoiseFrom(std::int32_t position, std::int32_t positions) const;
     void Skip(std::int32_t bytes);
-    void Advance();
     void Pass();
     std::uint8_t At(std::int32_t index) const { return buffer_[static_cast<std::size_t>(index) - 1]; }
 

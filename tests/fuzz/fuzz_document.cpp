@@ -51,8 +51,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (std::uint32_t node = 1; node < document.Tree().Nodes().Size(); ++node)
         FUZZ_CHECK(Utf16Length(document.GetNodeContents_strContent(node)) < PropertyText::kCapacity);
 
-    TextSink first, second, page;
+    // Told from memory or not, the text is the same.
+    MessageList plainMessages;
+    Document plain(settings, NumberStyle(), plainMessages, host);
+    plain.TellRepeatedFromMemory(false);
+    FUZZ_CHECK(plain.ProcessAFPFile(file.Path(), "fuzz"));
+    FUZZ_CHECK(plainMessages.Size() == messages.Size());
+
+    TextSink first, second, page, plainText;
+    FUZZ_CHECK(plain.WriteDump(plainText, DumpEncoding::Utf8).Whole());
     FUZZ_CHECK(document.WriteDump(first, DumpEncoding::Utf8).Whole());
+    FUZZ_CHECK(first.text == plainText.text);
     CheckTree(document.Tree());
     FUZZ_CHECK(document.WriteDump(second, DumpEncoding::Utf8).Whole());
     // Marks that the first dump has set can stand in front of names that the first dump had written before.

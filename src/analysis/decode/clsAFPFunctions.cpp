@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "analysis/decode/dispatch.h"
+#include "analysis/decode/groups.h"
 #include "base/text.h"
 
 namespace folioscope {
@@ -63,10 +64,7 @@ struct clsAFPFunctions::TextPage {
     ByteTexts texts;
 };
 
-clsAFPFunctions::clsAFPFunctions()
-{
-    CodePages.Reset(Pages.lngInputCP);
-}
+clsAFPFunctions::clsAFPFunctions() { CodePages.Reset(Pages.lngInputCP); }
 
 clsAFPFunctions::~clsAFPFunctions() = default;
 
@@ -139,8 +137,9 @@ Status clsAFPFunctions::CloseAFPFile()
 }
 
 // Where the record's bytes are and which field it is, as its length field and identifier say.
-void clsAFPFunctions::ReadIntroducer()
+void clsAFPFunctions::LookAtRecord()
 {
+    reached_ = 0;
     const std::int32_t start = reader_.RecordStart();
     FieldLength = reader_.FieldLength();
     FieldEnd = start + FieldLength - 1;
@@ -148,13 +147,33 @@ void clsAFPFunctions::ReadIntroducer()
     field_ = ByteAt(start + 2) == 0xD3 ? FindField(ByteAt(start + 3), ByteAt(start + 4)) : kFieldCount;
 }
 
+void clsAFPFunctions::PassRecord()
+{
+    previousIdentifier_ = identifier_;
+    identifier_ = static_cast<std::uint32_t>(ReadUnsigned(reader_.RecordStart() + 2, 3));
+}
+
+std::string_view clsAFPFunctions::RecordBytes(std::int32_t behind) const
+{
+    const auto buffer = reader_.RecordBuffer();
+    const auto from = static_cast<std::size_t>(reader_.RecordStart() - 1);
+    if (from >= buffer.size()) return {};
+    const auto length = static_cast<std::size_t>(reader_.FieldLength() + behind);
+    const auto bytes = buffer.subspan(from, std::min(length, buffer.size() - from));
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+bool clsAFPFunctions::ReadNoFurtherThan(std::int32_t behind) const
+{
+    return reached_ < std::int64_t{reader_.RecordStart()} + reader_.FieldLength() + behind;
+}
+
 Status clsAFPFunctions::AnalyzeRecord()
 {
-    ReadIntroducer();
+    LookAtRecord();
+    PassRecord();
     const std::int32_t start = reader_.RecordStart();
     const std::uint8_t category = ByteAt(start + 2) == 0xD3 ? ByteAt(start + 3) : 0;
-    previousIdentifier_ = identifier_;
-    identifier_ = static_cast<std::uint32_t>(ReadUnsigned(start + 2, 3));
     AddElement(Element::Int32(Key::SFStart, std::int64_t{reader_.BufferFilePos()} + start - 1));
     AddElement(Element::Int32(Key::SFLength, FieldLength));
 
@@ -179,14 +198,30 @@ Status clsAFPFunctions::AnalyzeRecord()
         const FieldRow& row = Fields()[field_];
         AddElement(Element::Literal(Key::NodeText, row.NodeText));
         AddElement(Element::Literal(Key::SFName, row.SFName));
-        if (row.port != Port::None && FieldPosition < FieldEnd) AddElement(Element::Int16(Key::Unread, 1));
-        if (row.procedure != nullptr) row.procedure(*this);
+        if (row.body.port != Port::None && FieldPosition < FieldEnd) AddElement(Element::Int16(Key::Unread, 1));
+        DecodeBody(row.body);
     }
     // What a Begin field sets holds for its scope, so its net effect is one level more; an End's is one less.
     if (category == kBeginCategory) CodePages.HandDown();
     if (category == kEndCategory) CodePages.Pop();
     CodePages.Pop();
     return static_cast<Status>(recordFlags);
+}
+
+void clsAFPFunctions::DecodeBody(const FieldBody& body)
+{
+    if (body.procedure != nullptr) return body.procedure(*this);
+    ReadRows(*this, body.rows, FieldPosition, FieldEnd - FieldPosition + 1);
+    FieldPosition += body.pass;
+    if (body.then == Then::Triplets) AnalyzeTriplets(*this, FieldEnd);
+    if (body.then == Then::TripletGroups) AnalyzeTripletGroups(*this);
+}
+
+void clsAFPFunctions::FollowCodePage(std::int32_t page)
+{
+    if (!conversions_.LoadCodepage(page)) return;
+    CodePages.SetTop(page);
+    Pages.lngInputCPNOP = Pages.lngInputCPTLE = page;
 }
 
 // The last byte is the count of padding bytes; if it is 0, the two bytes before it are.
@@ -209,11 +244,11 @@ void clsAFPFunctions::AddUnknown()
 
 void clsAFPFunctions::AnalyzeSpecificRecord()
 {
-    ReadIntroducer();
+    LookAtRecord();
     CodePages.Push();
     PortDecoder decoder = nullptr;
     if (field_ != kFieldCount) {
-        switch (Fields()[field_].port) {
+        switch (Fields()[field_].body.port) {
         case Port::None: break;
         case Port::Sequences: decoder = ports_.Sequences; break;
         case Port::Fields: decoder = ports_.Fields; break;
@@ -224,10 +259,7 @@ void clsAFPFunctions::AnalyzeSpecificRecord()
     CodePages.Pop();
 }
 
-const std::string& clsAFPFunctions::IdentifierText()
-{
-    return identifierText_ = IdentifierTextOf(identifier_);
-}
+const std::string& clsAFPFunctions::IdentifierText() { return identifierText_ = IdentifierTextOf(identifier_); }
 
 const std::string& clsAFPFunctions::PreviousIdentifierText()
 {
@@ -284,7 +316,7 @@ Element clsAFPFunctions::ReadTextCP(Key key, std::int32_t lngCodepage, std::int6
     if (first == second && (first == 0 || first == 0xFF))
         AppendUtf8(list_.Pool(), static_cast<char32_t>(first));
     else if (length > 0)
-        AppendText(Record(), lngCodepage, position, length);
+        AppendText(Reach(position + length - 1), lngCodepage, position, length);
     return list_.PooledText(key, from);
 }
 

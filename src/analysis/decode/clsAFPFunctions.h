@@ -8,6 +8,7 @@
 
 #include "analysis/decode/byte_view.h"
 #include "analysis/decode/code_page_stack.h"
+#include "analysis/decode/triplets.h"
 #include "analysis/elements/element_list.h"
 #include "codepages/clsCPConversions.h"
 #include "stream/record_reader.h"
@@ -15,7 +16,7 @@
 namespace folioscope {
 
 class clsAFPFunctions;
-struct FieldRow;
+struct FieldBody;
 
 // Decoders of the bodies that lie above this floor. A body whose decoder is missing adds no Elements.
 using PortDecoder = void (*)(clsAFPFunctions&);
@@ -34,6 +35,14 @@ struct InputPages {
     bool CPAutoDetect = true;
 };
 
+// What Begin fields leave behind for the fields inside of them.
+struct ResourceState {
+    std::string name;       // trimmed Name of the latest named field
+    std::string groupName;  // of the latest BNG
+    std::string formMap;    // of the latest BRS
+    bool inResourceGroup = false;
+};
+
 // Reader and analyser of one file: it turns the record in hand into Elements. Positions count from 1 into the record
 // buffer; every read outside of it gives 0.
 class clsAFPFunctions {
@@ -41,7 +50,8 @@ public:
     clsAFPFunctions();
     ~clsAFPFunctions();
 
-    void InitializeProcessing(std::string strAFPFile, std::int32_t lngInputCP, std::int32_t lngOutputCP, bool CPAutoDetect);
+    void InitializeProcessing(std::string strAFPFile, std::int32_t lngInputCP, std::int32_t lngOutputCP,
+                              bool CPAutoDetect);
     void InitializeProcessing2(std::string strAFPFile, const InputPages& pages);
     void SetPorts(const DecodePorts& ports) { ports_ = ports; }
 
@@ -56,6 +66,10 @@ public:
     Status GetNextRecord2(std::int32_t& lngProcessedBytes, bool bolReturnSF);
     FileFailure SetNextRecord(std::int32_t lngProcessedStart) { return reader_.SetNextRecord(lngProcessedStart); }
 
+    // Finds out which field the current record is, and where its bytes are. AnalyzeRecord begins with it.
+    void LookAtRecord();
+    // The current record will not be analysed: the next one follows it all the same.
+    void PassRecord();
     // The current record's Elements. Reads no file.
     Status AnalyzeRecord();
     // The Elements of the body that AnalyzeRecord left for later (Unread).
@@ -70,16 +84,27 @@ public:
     // The row of the current record's field in kFields; kFieldCount for one that isn't known.
     std::size_t Field() const { return field_; }
 
+    // The bytes of the current record from the length field on, and `behind` more; fewer at the end of the file.
+    std::string_view RecordBytes(std::int32_t behind) const;
+    // Whether its analysis has read no further than that: a short field reads what follows it.
+    bool ReadNoFurtherThan(std::int32_t behind) const;
+
     // For decoders -------------------------------------------------------------------------------------------------
 
     std::int32_t FieldPosition = 1;  // the next byte to read
     std::int32_t FieldEnd = 0;       // the record's last byte
     std::int32_t FieldLength = 0;    // bytes from the length field on, without padding
 
-    std::uint8_t ByteAt(std::int64_t position) const { return Record().At(position); }
-    std::int32_t ReadUnsigned(std::int64_t position, int length) const { return Record().Unsigned(position, length); }
-    std::int32_t ReadSigned(std::int64_t position, int length) const { return Record().Signed(position, length); }
-    bool ReadBit(std::int64_t position, int bit) const { return Record().Bit(position, bit); }
+    std::uint8_t ByteAt(std::int64_t position) const { return Reach(position).At(position); }
+    std::int32_t ReadUnsigned(std::int64_t position, int length) const
+    {
+        return Reach(position + length - 1).Unsigned(position, length);
+    }
+    std::int32_t ReadSigned(std::int64_t position, int length) const
+    {
+        return Reach(position + length - 1).Signed(position, length);
+    }
+    bool ReadBit(std::int64_t position, int bit) const { return Reach(position + bit / 8).Bit(position, bit); }
 
     void AddElement(const Element& element) { list_.AddElement(element); }
     void AddSequenceElement(const Element& element) { list_.AddSequenceElement(element); }
@@ -96,7 +121,10 @@ public:
     // laid out in groups of 8 and lines of 32 bytes.
     ByteView Object() const { return {ObjectBuffer, 0}; }
     int ObjByteAt(std::int64_t position) const { return Object().At(position); }
-    std::int32_t ObjReadUnsigned(std::int64_t position, int length) const { return Object().Unsigned(position, length); }
+    std::int32_t ObjReadUnsigned(std::int64_t position, int length) const
+    {
+        return Object().Unsigned(position, length);
+    }
     std::int32_t ObjReadSigned(std::int64_t position, int length) const { return Object().Signed(position, length); }
     bool ObjReadBit(std::int64_t position, int bit) const { return Object().Bit(position, bit); }
     Element ObjReadTextCP(Key key, std::int32_t lngCodepage, std::int64_t position, std::int64_t length);
@@ -105,21 +133,31 @@ public:
     std::vector<std::uint8_t> CopyObjectBytes(std::int64_t position, std::int64_t length) const;
 
     std::vector<std::uint8_t> ObjectBuffer;  // object container data, gathered over many records
-    std::string ResourceName;                // trimmed Name of the latest named field
-    bool InResourceGroup = false;            // between BRG and ERG
+    ResourceState Resources;
+    TripletState Triplets;
     InputPages Pages;
     CodePageStack CodePages;
     std::int32_t CurrentCodePage() const { return CodePages.Current(); }
+    // A code page that the file names holds for the scope in hand, and for TLE and NOP contents from here on. One that
+    // isn't known is passed over.
+    void FollowCodePage(std::int32_t page);
+    std::uint32_t Identifier() const { return identifier_; }  // 0xD3A8AF
+    std::int32_t FilePosition(std::int32_t bufferIndex) const { return reader_.BufferFilePos() + bufferIndex - 1; }
     const std::string& IdentifierText();          // "D3 A8 AF"
     const std::string& PreviousIdentifierText();  // the same of the record before
 
 private:
     struct TextPage;
 
-    ByteView Record() const { return {reader_.RecordBuffer(), 1}; }
+    // The record buffer, for a read up to this position.
+    ByteView Reach(std::int64_t position) const
+    {
+        if (position > reached_) reached_ = position;
+        return {reader_.RecordBuffer(), 1};
+    }
     void AddFailure();
-    void ReadIntroducer();
     void TakePadding();
+    void DecodeBody(const FieldBody& body);
     void AddUnknown();
     void AppendText(const ByteView& bytes, std::int32_t lngCodepage, std::int64_t position, std::int64_t length);
     const ByteTexts* TextsOf(std::int32_t lngCodepage);
@@ -131,6 +169,7 @@ private:
     const TextPage* lastTextPage_ = nullptr;
     DecodePorts ports_;
     std::size_t field_ = 0;
+    mutable std::int64_t reached_ = 0;  // the highest position that was read of the current record
     std::uint32_t identifier_ = 0, previousIdentifier_ = 0;
     std::string identifierText_, previousIdentifierText_;
 };

@@ -4,12 +4,22 @@ namespace folioscope {
 
 class clsAFPFunctions;
 
-// The bodies of the Begin and End fields: an 8-byte name in page 500, if the field has data.
-void DecodeNamed(clsAFPFunctions&);      // the common form
-void DecodeEPS(clsAFPFunctions&);        // End Page Segment
-void DecodeNameOnly(clsAFPFunctions&);   // shown in the property text alone: BCP, EMM
+// The Begin and End fields, whose data begin with an 8-byte name, and the fields that stand between them.
+void DecodeNamed(clsAFPFunctions&);            // the common form: name, triplets, name in the tree
+void DecodeNamedReserved(clsAFPFunctions&);    // the same with two reserved bytes behind the name: BDT
+void DecodeNameOnly(clsAFPFunctions&);         // name, name in the tree
+void DecodeNameAndTriplets(clsAFPFunctions&);  // name, triplets
+void DecodeNameAlone(clsAFPFunctions&);        // name
+void DecodeEPS(clsAFPFunctions&);
 void DecodeBRG(clsAFPFunctions&);
 void DecodeERG(clsAFPFunctions&);
+void DecodeBRS(clsAFPFunctions&);
+void DecodeBNG(clsAFPFunctions&);
+void DecodeBDM(clsAFPFunctions&);
+void DecodeBMM(clsAFPFunctions&);
+void DecodeBOC(clsAFPFunctions&);
 void DecodeNOP(clsAFPFunctions&);
+void DecodeTLE(clsAFPFunctions&);
+void DecodeLLE(clsAFPFunctions&);
 
 }  // namespace folioscope

@@ -19,9 +19,9 @@ enum class Tag : std::uint8_t {
     Int32,
     Float32,
     Float64,
-    Text,      // in the list's pool
-    Literal,   // a text that outlives the record
-    Boolean,   // number 0 or 1
+    Text,     // in the list's pool
+    Literal,  // a text that outlives the record
+    Boolean,  // number 0 or 1
     Byte,
     Sequence,  // a range of the sequence list
 };

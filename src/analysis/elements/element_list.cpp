@@ -4,15 +4,15 @@ namespace folioscope {
 
 void ElementList::ClearCollections()
 {
-    elements_.clear();
-    sequence_.clear();
+    elements_.Clear();
+    sequence_.Clear();
     pool_.clear();
     sequenceStart_ = 0;
 }
 
 const Element* ElementList::Find(Key key) const
 {
-    for (const Element& element : elements_)
+    for (const Element& element : elements_.All())
         if (element.key == key) return &element;
     return nullptr;
 }
@@ -36,7 +36,7 @@ std::string_view ElementList::TextOf(const Element& element) const
 
 void ElementList::AddSequenceElement(const Element& element)
 {
-    if (SequenceCount() < kLongestSequence) sequence_.push_back(element);
+    if (SequenceCount() < kLongestSequence) sequence_.Add(element);
 }
 
 void ElementList::PublishSequence(Key types, Key values)
@@ -46,15 +46,15 @@ void ElementList::PublishSequence(Key types, Key values)
     half.size = static_cast<std::uint32_t>(SequenceCount());
     half.at = sequenceStart_;
     half.key = types;
-    elements_.push_back(half);
+    elements_.Add(half);
     half.key = values;
-    elements_.push_back(half);
+    elements_.Add(half);
 }
 
 std::span<const Element> ElementList::SequenceOf(const Element& element) const
 {
     if (element.tag != Tag::Sequence) return {};
-    return std::span(sequence_).subspan(element.at, element.size);
+    return sequence_.All().subspan(element.at, element.size);
 }
 
 }  // namespace folioscope

@@ -5,9 +5,9 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "analysis/elements/element.h"
+#include "analysis/elements/growing_list.h"
 
 namespace folioscope {
 
@@ -18,8 +18,8 @@ public:
     static constexpr std::size_t kLongestSequence = 10'000;
 
     void ClearCollections();
-    void AddElement(const Element& element) { elements_.push_back(element); }
-    std::span<const Element> Elements() const { return elements_; }
+    void AddElement(const Element& element) { elements_.Add(element); }
+    std::span<const Element> Elements() const { return elements_.All(); }
     const Element* Find(Key key) const;
 
     // Texts are written to the end of the pool: what was appended since `from` becomes the value.
@@ -29,14 +29,14 @@ public:
 
     // A sequence is built by ClearSequenceElements, any number of AddSequenceElement, and PublishSequence, which adds
     // its two halves. Entries past the longest sequence are dropped without a word.
-    void ClearSequenceElements() { sequenceStart_ = sequence_.size(); }
+    void ClearSequenceElements() { sequenceStart_ = sequence_.Size(); }
     void AddSequenceElement(const Element& element);
-    std::size_t SequenceCount() const { return sequence_.size() - sequenceStart_; }
+    std::size_t SequenceCount() const { return sequence_.Size() - sequenceStart_; }
     void PublishSequence(Key types, Key values);
     std::span<const Element> SequenceOf(const Element& element) const;
 
 private:
-    std::vector<Element> elements_, sequence_;
+    GrowingList<Element> elements_, sequence_;
     std::string pool_;
     std::size_t sequenceStart_ = 0;
 };

@@ -3,18 +3,26 @@
 #include <array>
 
 #include "analysis/render/words_common.h"
+#include "analysis/render/words_triplets.h"
+#include "analysis/render/words_values.h"
 
 namespace folioscope {
 
 namespace {
 
+// Key to row, over the tables of all families. A key that two of them claim doesn't compile.
 constexpr auto kLineOf = [] {
-    std::array<std::uint16_t, static_cast<std::size_t>(Key::KeyCount)> index{};
-    for (std::size_t i = 0; i < std::size(kCommonLines); ++i) {
-        auto& place = index[static_cast<std::size_t>(kCommonLines[i].key)];
-        if (place != 0) throw "two lines for one key";
-        place = static_cast<std::uint16_t>(i + 1);
-    }
+    std::array<const LineRow*, static_cast<std::size_t>(Key::KeyCount)> index{};
+    const auto enter = [&](const auto& lines) {
+        for (const LineRow& line : lines) {
+            auto& place = index[static_cast<std::size_t>(line.key)];
+            if (place != nullptr) throw "two lines for one key";
+            place = &line;
+        }
+    };
+    enter(kCommonLines);
+    enter(kValueLines);
+    enter(kTripletLines);
     return index;
 }();
 
@@ -38,11 +46,7 @@ constexpr ColorRow kColorNames[] = {
 
 }  // namespace
 
-const LineRow* LineOf(Key key)
-{
-    const std::uint16_t row = kLineOf[static_cast<std::size_t>(key)];
-    return row == 0 ? nullptr : &kCommonLines[row - 1];
-}
+const LineRow* LineOf(Key key) { return kLineOf[static_cast<std::size_t>(key)]; }
 
 Label ColorName(std::int32_t value)
 {

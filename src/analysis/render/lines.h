@@ -24,11 +24,19 @@ enum class Line : std::uint8_t {
 };
 
 // What is said of a value that no word fits.
-enum class Other : std::uint8_t { Unknown, Invalid, Number, Nothing };
+enum class Other : std::uint8_t {
+    Unknown,
+    Invalid,
+    Number,  // as it is
+    Count,   // with thousands separators
+    Last,    // the last word of the list
+    Nothing,
+};
 
 struct Word {
     std::int32_t value;
     Wording text;
+    Wording more = {};  // right behind it
 };
 
 struct LineRow {
@@ -39,6 +47,12 @@ struct LineRow {
     Other other = Other::Nothing;
     void (*custom)(Renderer&, const Element&) = nullptr;
 };
+
+// A row for a line of its own shape.
+constexpr LineRow Own(Key key, void (*custom)(Renderer&, const Element&), Wording label = {})
+{
+    return {key, Line::Custom, label, {}, Other::Nothing, custom};
+}
 
 // The line of a key; null for a key that no renderer knows, which writes nothing.
 const LineRow* LineOf(Key key);

@@ -18,10 +18,7 @@ constexpr Wording kLength = L("Length");
 constexpr std::array<std::string_view, 6> kHexPaneRecords = {"IRD", "FNG", "OCD", "BDA/BSA", "FDX", "NOP"};
 
 // One character U+0000 or U+00FF stands for a text that isn't given.
-bool IsNotGiven(std::string_view value)
-{
-    return value == std::string_view("\0", 1) || value == "ÿ";
-}
+bool IsNotGiven(std::string_view value) { return value == std::string_view("\0", 1) || value == "ÿ"; }
 
 std::size_t GroupedLength(std::int64_t value, const NumberStyle& style)
 {
@@ -48,6 +45,7 @@ std::string_view Renderer::Say(Wording wording) const
 void Renderer::RenderStructuredField(const ElementList& elements)
 {
     list = &elements;
+    record = {};
     for (const Element& element : elements.Elements()) RenderElement(element);
 }
 
@@ -63,7 +61,7 @@ void Renderer::RenderElement(const Element& element)
         out += Say(row->label);
         out += ":\t";
         out += kBold;
-        if (const auto value = TextOf(element); !IsNotGiven(value)) out += value;
+        if (!IsNotGiven(TextOf(element))) AppendValue(out, element);
         out += kNormal;
         return EndLine();
     }
@@ -89,8 +87,19 @@ void Renderer::RenderElement(const Element& element)
 
 void Renderer::RenderWords(const LineRow& row, const Element& element)
 {
-    for (const auto& [value, word] : row.words)
-        if (value == element.number) return PutLine(row.label, Say(word));
+    auto found = std::find_if(row.words.begin(), row.words.end(),
+                              [&](const Word& word) { return word.value == element.number; });
+    if (found == row.words.end() && row.other == Other::Last) --found;
+    if (found != row.words.end()) {
+        std::string& out = BeginLine(row.label);
+        out += Say(found->text);
+        out += Say(found->more);
+        return EndLine();
+    }
+    if (row.other == Other::Count) {
+        AppendNumber(BeginLine(row.label), element, Picture::Grouped);
+        return EndLine();
+    }
     std::string number;
     AppendValue(number, element);
     if (row.other == Other::Unknown) PutUnknown(row.label, number);
@@ -210,11 +219,11 @@ void RenderNodeText(Renderer& renderer, const Element& element)
     renderer.sink.SetNodeText(renderer.nodeText);
 }
 
-// The head lines are a formula of what the node keeps anyway, so they are counted here and written where they are shown.
+// The head lines are a formula of what the node keeps anyway, so they are counted here and written where they are
+// shown.
 void RenderSFName(Renderer& renderer, const Element& element)
 {
-    renderer.text.Pass(
-        renderer.HeadLinesLength(renderer.TextOf(element), renderer.SFStart, renderer.SFLength));
+    renderer.text.Pass(renderer.HeadLinesLength(renderer.TextOf(element), renderer.SFStart, renderer.SFLength));
 }
 
 void RenderSFStart(Renderer& renderer, const Element& element)
@@ -281,10 +290,7 @@ void RenderUnknown(Renderer& renderer, const Element&)
     renderer.sink.MarkNodeInvalid();
 }
 
-void RenderUnread(Renderer& renderer, const Element&)
-{
-    renderer.sink.SetUnread();
-}
+void RenderUnread(Renderer& renderer, const Element&) { renderer.sink.SetUnread(); }
 
 namespace {
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -19,6 +20,21 @@ namespace folioscope {
 struct UnitState {
     std::int16_t PageUnitsX = 1440, PageUnitsY = 1440;
     std::int16_t ObjectUnitsX = 1440, ObjectUnitsY = 1440;
+    bool operator==(const UnitState&) const = default;
+};
+
+// Line widths in inches, which outlive the record too.
+struct LineState {
+    float NormalLineWidth = 1.0f / 120;
+    float CurrentLineWidth = 1.0f / 120;
+    bool operator==(const LineState&) const = default;
+};
+
+// What one Element leaves for a later one of the same record.
+struct RecordState {
+    Element bits, intensity, colorValue;
+    std::int64_t barCodeType = 0, boxEdge = 0;
+    std::array<std::int64_t, 4> arc{};
 };
 
 // Turns the Elements of a record into its property text, and tells the tree what concerns it.
@@ -56,9 +72,11 @@ struct Renderer {
     PropertyText text;
     std::string IndentText;  // tabs in front of each line
     UnitState units;
+    LineState lines;
 
     // Of the record in hand.
     const ElementList* list = nullptr;
+    RecordState record;
     std::string_view nodeText;
     std::int32_t SFStart = 0, SFLength = 0;
 

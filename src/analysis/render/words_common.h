@@ -8,11 +8,6 @@
 namespace folioscope {
 
 // clang-format off
-constexpr LineRow Own(Key key, void (*custom)(Renderer&, const Element&), Wording label = {})
-{
-    return {key, Line::Custom, label, {}, Other::Nothing, custom};
-}
-
 constexpr LineRow kCommonLines[] = {
     Own(Key::NodeText,           RenderNodeText),
     Own(Key::SFName,             RenderSFName),

@@ -104,7 +104,7 @@ TEST(AnalyzeRecord, OnlyExtensionAndPaddingFlagsChangeTheElements)
 {
     const Bytes data = Raw({3, 0xC1, 0xC2}) + Ebcdic8("PAGE0001") + Raw({1});
     AfpFile file;
-    for (unsigned flags = 0; flags < 256; ++flags) file.Add({"EPG", data, flags});
+    for (unsigned flags = 0; flags < 256; ++flags) file.Add({"EAG", data, flags});
     RecordWalk walk(file);
     Lines seen[256];
     for (Lines& lines : seen) {

@@ -272,7 +272,7 @@ TEST(SecondPass, AnyOtherFieldAddsNothing)
     AfpFile file;
     std::size_t count = 0;
     for (const FieldRow& row : Fields()) {
-        if (row.port != Port::None || row.NodeText == "RCD" || row.NodeText == "XMD") continue;
+        if (row.body.port != Port::None || row.NodeText == "RCD" || row.NodeText == "XMD") continue;
         file.Add(row.NodeText, Raw({1, 2, 3, 4}));
         ++count;
     }

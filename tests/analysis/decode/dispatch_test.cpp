@@ -101,7 +101,7 @@ TEST(Fields, AreDeferredInFourCases)
 {
     std::map<std::string_view, Port> ports;
     for (const FieldRow& row : Fields())
-        if (row.port != Port::None) ports[row.NodeText] = row.port;
+        if (row.body.port != Port::None) ports[row.NodeText] = row.body.port;
     EXPECT_EQ(
         ports,
         (std::map<std::string_view, Port>{

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+
+namespace folioscope {
+
+class clsAFPFunctions;
+
+// Repeating groups of a field. Each walk runs while FieldPosition is below FieldEnd and numbers its groups from 1.
+
+// What a group holds between the keys that open and close it. `start` is the buffer index of its first byte.
+using GroupDecoder = void (*)(clsAFPFunctions&, std::int32_t start, std::int32_t length);
+
+// Groups of one size, in bytes; 0 gives one group.
+void AnalyzeGroups(clsAFPFunctions& afp, std::int32_t size, GroupDecoder decode);
+
+// Groups that begin with a two-byte length, which counts itself; a length below 2 is the last one.
+void AnalyzeLengthGroups(clsAFPFunctions& afp, GroupDecoder decode);
+// The same for groups of triplets, which are told without bold.
+void AnalyzeTripletGroups(clsAFPFunctions& afp, GroupDecoder decode);
+void AnalyzeTripletGroups(clsAFPFunctions& afp);
+
+// The triplets of a group from an offset on.
+void AnalyzeGroupTriplets(clsAFPFunctions& afp, std::int32_t start, std::int32_t offset, std::int32_t length);
+
+}  // namespace folioscope

@@ -1,0 +1,22 @@
+# The tests of the field families: triplets, value words, descriptors, maps and includes.
+set(FAMILY_TESTS
+  family_support.cpp
+  decode/colors_test.cpp
+  decode/fields_descriptors_test.cpp
+  decode/fields_maps_test.cpp
+  decode/fields_tle_lle_test.cpp
+  decode/groups_test.cpp
+  decode/object_ids_test.cpp
+  decode/resources_test.cpp
+  decode/rows_test.cpp
+  decode/triplet_names_test.cpp
+  decode/triplet_procedures_test.cpp
+  decode/triplets_table_test.cpp
+  decode/triplets_test.cpp
+  render/barcode_test.cpp
+  render/captions_test.cpp
+  render/colors_test.cpp
+  render/triplets_test.cpp
+  render/values_test.cpp
+  render/words_triplets_test.cpp
+  render/words_values_test.cpp)
