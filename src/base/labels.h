@@ -53,6 +53,9 @@ private:
     Language language_;
 };
 
+// The texts of the analysis in one language. A run takes them at its start and keeps them to its end.
+inline Labels AnalysingTexts(Language intAnalysisLanguage) { return Labels(intAnalysisLanguage); }
+
 // What a table says: a text of the catalog, or a literal that is the same in every language.
 struct Wording {
     constexpr Wording() = default;

@@ -7,7 +7,7 @@ Document::Document(const Settings& settings, NumberStyle numbers, MessageList& m
     : settings_(settings), style_(std::move(numbers)), messages_(messages), host_(host)
 {
     clsAFP_.SetPorts(ports);
-    const Labels analysis(settings_.AnalysisLanguage()), interface(settings_.InterfaceLanguage());
+    const Labels analysis = AnalysingTexts(settings_.AnalysisLanguage()), interface(settings_.InterfaceLanguage());
     tree_ =
         std::make_unique<StructureTree>(settings_, analysis, interface, messages_, static_cast<TreeListener&>(*this));
     renderer_ = std::make_unique<Renderer>(analysis, settings_, style_, *tree_);

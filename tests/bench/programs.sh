@@ -7,8 +7,8 @@
 # a twentieth of the size, which tells whether all works and little more. The status is 0 if all targets are held,
 # 3 if one is missed, 1 if something couldn't be measured, 2 for wrong use.
 #
-# The candidate is fsv-dump, or the walk_document of this folder if fsv-dump doesn't tell its figures. The yardsticks
-# are bare_walker, hexdump and xxd.
+# The candidate is walk_document, which runs and dumps a file as fsv-dump does and tells what it took. The yardsticks are
+# bare_walker, hexdump and xxd.
 #
 #   FOLIOSCOPE_BENCH_DIR  folder for the inputs, best one in memory (/dev/shm); needs 3.5 GB
 #   FOLIOSCOPE_YARDSTICK  another walker with the modes and the figures of bare_walker
@@ -38,7 +38,7 @@ fi
 make_afp=$build/tests/bench/make_afp
 bare_walker=$build/tests/bench/bare_walker
 yardstick=${FOLIOSCOPE_YARDSTICK:-$bare_walker}
-candidate=()
+candidate=("$build/tests/bench/walk_document")
 
 MB=1000000
 MiB=1048576
@@ -137,18 +137,6 @@ try_candidate() {  # ARGUMENTS...
 }
 
 run_candidate() { try_candidate "$@" || die "no figures from ${candidate[*]} $*"; }
-
-find_candidate() {
-    local probe=$folder/probe.afp
-    "$make_afp" 100K "$probe" --small 2>/dev/null
-    candidate=("$build/tools/fsv-dump" --stats)
-    if ! try_candidate --run-only "$probe"; then
-        candidate=("$build/tests/bench/walk_document")
-        try_candidate --run-only "$probe" ||
-            die "neither tools/fsv-dump --stats nor tests/bench/walk_document of $build tells its figures"
-    fi
-    rm "$probe"
-}
 
 input() {  # NAME SIZE ARGUMENTS...: makes a file and prints its path
     local file=$folder/$1.afp size=$2
@@ -346,7 +334,6 @@ check_tools
 folder=$(mktemp -d "$base/folioscope-bench.XXXXXX")
 trap 'rm -rf "$folder"' EXIT
 trap 'exit 1' INT TERM HUP
-find_candidate
 print_head
 measure_statements
 measure_other_files
