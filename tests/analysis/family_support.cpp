@@ -16,13 +16,6 @@ struct Sign {
 constexpr Sign kSigns[] = {{"\t", "→"},         {"\r\n", "\n"},     {"°^°B~", "<b>"},     {"°^°N~", "</b>"},
                            {"°^°R~", "<red>"},  {"°^°S~", "</red>"}, {"°^°H~", "<link>"}, {"°^°L~", "</link>"}};
 
-unsigned DigitOf(char c)
-{
-    if (c >= '0' && c <= '9') return static_cast<unsigned>(c - '0');
-    if (c >= 'A' && c <= 'F') return static_cast<unsigned>(c - 'A' + 10);
-    throw std::invalid_argument("no hex digit in the bytes of a test");
-}
-
 std::string ValueOf(const ElementList& list, const Element& element)
 {
     switch (element.tag) {
@@ -84,36 +77,6 @@ std::pair<std::size_t, std::size_t> TripletRange(const std::vector<std::string>&
 }
 
 }  // namespace
-
-Bytes Pieces(std::string_view pieces)
-{
-    Bytes bytes;
-    for (std::size_t i = 0; i < pieces.size();) {
-        const char c = pieces[i];
-        if (c == ' ') {
-            ++i;
-        } else if (c == '\'' || c == '<') {
-            const auto end = pieces.find(c == '<' ? '>' : '\'', i + 1);
-            const auto text = pieces.substr(i + 1, end - i - 1);
-            bytes += c == '<' ? Bytes(text) : Ebcdic(text);
-            i = end + 1;
-        } else {
-            const Bytes byte = U1(DigitOf(c) << 4 | DigitOf(pieces.at(i + 1)));
-            i += 2;
-            std::size_t count = 0;
-            if (i < pieces.size() && pieces[i] == '*')
-                for (++i; i < pieces.size() && pieces[i] != ' '; ++i) count = count * 10 + DigitOf(pieces[i]);
-            for (std::size_t n = std::max<std::size_t>(count, 1); n > 0; --n) bytes += byte;
-        }
-    }
-    return bytes;
-}
-
-Bytes TripletOf(std::string_view pieces)
-{
-    const Bytes bytes = Pieces(pieces);
-    return U1(static_cast<unsigned>(bytes.size()) + 1) + bytes;
-}
 
 std::string Readable(std::string_view propertyText)
 {

@@ -10,11 +10,6 @@
 
 namespace folioscope::test {
 
-// Bytes written readably: hex pairs, 'EBCDIC text', <text as it stands>; a pair can repeat: "00*14". Blanks separate.
-Bytes Pieces(std::string_view pieces);
-// One triplet of an id and data, with the length byte that it needs.
-Bytes TripletOf(std::string_view pieces);
-
 // Hears what a renderer tells the tree: "ResName PAGE0001", "Unread", "Invalid", "Message ...".
 class Witness final : public NodeSink {
 public:

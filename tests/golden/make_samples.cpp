@@ -8,6 +8,7 @@
 #include <string>
 
 #include "analysis/decode/dispatch.h"
+#include "golden/triplet_samples.h"
 #include "support/afp_builder.h"
 
 namespace {
@@ -92,6 +93,18 @@ AfpFile AllFields()
     return file;
 }
 
+// Every triplet, each in a field that can hold it; those of a resource stand where they mean something of their own.
+AfpFile AllTriplets()
+{
+    AfpFile file;
+    file.Add("BDT", Name("TRIPLETS") + Zeros(2));
+    for (const std::string_view sample : kTripletSamples) file.Add("OBD", TripletOf(sample));
+    file.Add("BRS", Name("S1LOGO") + Zeros(2) + TripletOf("21 FB 00*7")).Add("ERS", Name("S1LOGO"));
+    AddTag(file, "Account", "4711");
+    file.Add("EDT", Name("TRIPLETS"));
+    return file;
+}
+
 // What goes wrong in practice: Ends that don't fit, noise, an End too many, a file that stops in the middle.
 AfpFile Damaged()
 {
@@ -138,6 +151,7 @@ int main(int argc, char** argv)
     Write(folder, "statement-lf.afp", Statement(Packaging::Lf));
     Write(folder, "statement-crlf.afp", Statement(Packaging::CrLf));
     Write(folder, "all-fields.afp", AllFields());
+    Write(folder, "all-triplets.afp", AllTriplets());
     Write(folder, "damaged.afp", Damaged());
     return 0;
 }

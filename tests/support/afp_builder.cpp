@@ -1,5 +1,6 @@
 #include "support/afp_builder.h"
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 
@@ -69,6 +70,36 @@ Bytes Ebcdic8(std::string_view text)
 }
 
 Bytes Triplet(unsigned id, const Bytes& data) { return U1(static_cast<unsigned>(data.size()) + 2) + U1(id) + data; }
+
+Bytes Pieces(std::string_view pieces)
+{
+    Bytes bytes;
+    for (std::size_t i = 0; i < pieces.size();) {
+        const char c = pieces[i];
+        if (c == ' ') {
+            ++i;
+        } else if (c == '\'' || c == '<') {
+            const auto end = pieces.find(c == '<' ? '>' : '\'', i + 1);
+            const auto text = pieces.substr(i + 1, end - i - 1);
+            bytes += c == '<' ? Bytes(text) : Ebcdic(text);
+            i = end + 1;
+        } else {
+            const Bytes byte = U1(HexDigit(c) << 4 | HexDigit(pieces.at(i + 1)));
+            i += 2;
+            std::size_t count = 0;
+            if (i < pieces.size() && pieces[i] == '*')
+                for (++i; i < pieces.size() && pieces[i] != ' '; ++i) count = count * 10 + HexDigit(pieces[i]);
+            for (std::size_t n = std::max<std::size_t>(count, 1); n > 0; --n) bytes += byte;
+        }
+    }
+    return bytes;
+}
+
+Bytes TripletOf(std::string_view pieces)
+{
+    const Bytes bytes = Pieces(pieces);
+    return U1(static_cast<unsigned>(bytes.size()) + 1) + bytes;
+}
 
 Bytes IdentifierOf(std::string_view name)
 {

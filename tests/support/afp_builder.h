@@ -23,6 +23,11 @@ Bytes Ebcdic8(std::string_view text);  // padded with blanks or cut to 8 bytes
 
 Bytes Triplet(unsigned id, const Bytes& data);
 
+// Bytes written readably: hex pairs, 'EBCDIC text', <text as it stands>; a pair can repeat: "00*14". Blanks separate.
+Bytes Pieces(std::string_view pieces);
+// One triplet of an id and data, with the length byte that it needs.
+Bytes TripletOf(std::string_view pieces);
+
 // Parts of a structured field that most records have in common.
 struct Field {
     std::string_view name;  // "BPG"; or an identifier in hex: "D3A8AF"
