@@ -71,7 +71,8 @@ std::vector<Row> Read(std::istream& in)
         }
         Row row{fields[0], fields[1], {fields[2], fields[3], fields[4]}};
         CheckRow(line, row);
-        if (!seen.emplace(std::pair{row.scope, row.text[0]}, line).second) Refuse(line, "a second row for " + row.text[0]);
+        if (!seen.emplace(std::pair{row.scope, row.text[0]}, line).second)
+            Refuse(line, "a second row for " + row.text[0]);
         rows.push_back(std::move(row));
     }
     return rows;

@@ -71,9 +71,6 @@ void TextStore::Grow()
     }
 }
 
-std::size_t TextStore::BytesUsed() const
-{
-    return bytes_ + table_.size() * sizeof(TextPlace);
-}
+std::size_t TextStore::BytesUsed() const { return bytes_ + table_.size() * sizeof(TextPlace); }
 
 }  // namespace folioscope

@@ -16,8 +16,8 @@ struct KnownRow {
 };
 
 // The types of the Begin fields; the End fields have the same.
-inline constexpr std::string_view kBeginEndTypes =
-    "\x5F\x77\x7B\x87\x89\x8A\x92\x9B\xA5\xA7\xA8\xAD\xAF\xBB\xC4\xC5\xC6\xC7\xC9\xCA\xCB\xCC\xCD\xCE\xD9\xDF\xE3\xEB\xFB";
+inline constexpr std::string_view kBeginEndTypes = "\x5F\x77\x7B\x87\x89\x8A\x92\x9B\xA5\xA7\xA8\xAD\xAF\xBB\xC4\xC5"
+                                                   "\xC6\xC7\xC9\xCA\xCB\xCC\xCD\xCE\xD9\xDF\xE3\xEB\xFB";
 
 // clang-format off
 inline constexpr KnownRow kKnownFields[] = {

@@ -73,10 +73,7 @@ public:
     std::int32_t FieldLength() const { return fieldLength_; }           // as the record's two length bytes say
 
     // The chunk in hand and zeros behind the file's last byte. Index 0 of the span is buffer index 1.
-    std::span<const std::uint8_t> RecordBuffer() const
-    {
-        return {buffer_.get(), static_cast<std::size_t>(readable_)};
-    }
+    std::span<const std::uint8_t> RecordBuffer() const { return {buffer_.get(), static_cast<std::size_t>(readable_)}; }
 
     // Called in a long stretch without a record; false ends the walk there.
     std::function<bool(std::int32_t lngProcessedBytes)> onScan;

@@ -13,8 +13,8 @@ namespace {
 struct Sign {
     std::string_view written, readable;
 };
-constexpr Sign kSigns[] = {{"\t", "→"},         {"\r\n", "\n"},     {"°^°B~", "<b>"},     {"°^°N~", "</b>"},
-                           {"°^°R~", "<red>"},  {"°^°S~", "</red>"}, {"°^°H~", "<link>"}, {"°^°L~", "</link>"}};
+constexpr Sign kSigns[] = {{"\t", "→"},        {"\r\n", "\n"},      {"°^°B~", "<b>"},    {"°^°N~", "</b>"},
+                           {"°^°R~", "<red>"}, {"°^°S~", "</red>"}, {"°^°H~", "<link>"}, {"°^°L~", "</link>"}};
 
 std::string ValueOf(const ElementList& list, const Element& element)
 {
@@ -124,10 +124,7 @@ Shown FamilyWalk::Last(int records)
     return Next();
 }
 
-Shown ShowRecord(const Field& field, const InputPages& pages)
-{
-    return FamilyWalk(AfpFile().Add(field), pages).Next();
-}
+Shown ShowRecord(const Field& field, const InputPages& pages) { return FamilyWalk(AfpFile().Add(field), pages).Next(); }
 
 Shown ShowTriplets(const Bytes& triplets, const InputPages& pages) { return ShowRecord({"OBD", triplets}, pages); }
 

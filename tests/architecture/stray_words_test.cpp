@@ -1,5 +1,5 @@
-// Texts for the user stand in the catalog. What a renderer writes as a literal is the same in every language, and stands
-// here with its reason.
+// Texts for the user stand in the catalog. What a renderer writes as a literal is the same in every language, and
+// stands here with its reason.
 
 #include <gtest/gtest.h>
 

@@ -125,7 +125,8 @@ struct StringSink final : DumpSink {
     std::vector<std::size_t> sizes;
 };
 
-// Acts as a user without privileges as long as it lives, if the tests run as root.
+// Acts as a user without privileges as long as it lives, if the tests run as root. Whoever writes to a device needs it
+// too: were the code wrong, root would replace the machine's own.
 class AsOrdinaryUser {
 public:
     AsOrdinaryUser();

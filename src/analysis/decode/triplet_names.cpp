@@ -181,8 +181,8 @@ void AddCharacterName(clsAFPFunctions& afp, std::uint8_t type, std::int32_t at, 
     const std::string name = ShownName(afp.List().TextOf(content));
     KeepName(afp, type, name);
     if (row.summary == NameSummary::None) return;
-    AddText(afp, Key::ShowTripletContent, "FQN: ",
-            row.summary == NameSummary::Shown ? std::string_view(name) : afp.List().TextOf(content));
+    AddText(afp, Key::ShowTripletContent,
+            "FQN: ", row.summary == NameSummary::Shown ? std::string_view(name) : afp.List().TextOf(content));
 }
 
 void AddObjectIdName(clsAFPFunctions& afp, std::int32_t at, std::int32_t length)

@@ -36,10 +36,7 @@ constexpr UnitBase kUnitBases[] = {
 };
 // clang-format on
 
-const LineRow& RowOf(const Element& element)
-{
-    return *LineOf(element.key);
-}
+const LineRow& RowOf(const Element& element) { return *LineOf(element.key); }
 
 void PutWithUnits(Renderer& renderer, const Element& element, UnitMember units)
 {
@@ -68,7 +65,8 @@ std::string Renderer::UnitsText(std::int32_t value, std::int16_t intUnits) const
     if (intUnits == 0) return out;
     const auto index = static_cast<std::size_t>(settings.DefaultMeasurement);
     const bool known = index < std::size(kMeasurements);
-    const float product = known ? static_cast<float>(static_cast<double>(value) / intUnits * kMeasurements[index].factor) : 0.0f;
+    const float product =
+        known ? static_cast<float>(static_cast<double>(value) / intUnits * kMeasurements[index].factor) : 0.0f;
     AppendFormatted(out, product, Picture::UpToFour, style);
     if (out.ends_with(style.decimal)) out.resize(out.size() - style.decimal.size());
     if (!known) return out;

@@ -22,8 +22,8 @@ constexpr std::string_view kName = "x'4E' (Color Specification)";
 // A colour triplet: its space, four bit counts, values.
 Shown ShowColor(std::string_view space, std::string_view bits, std::string_view values)
 {
-    return ShowTriplets(TripletOf("4E 00 " + std::string(space) + " 00*4 " + std::string(bits) + ' ' +
-                                  std::string(values)));
+    return ShowTriplets(
+        TripletOf("4E 00 " + std::string(space) + " 00*4 " + std::string(bits) + ' ' + std::string(values)));
 }
 
 TEST(Color, OfFourInks)
@@ -127,7 +127,8 @@ TEST(Color, AboveTheWholeIsToldOf)
     EXPECT_EQ(ValuesOf(largest, "Intensity").at(0), "25500");
 }
 
-// Bits without a range -----------------------------------------------------------------------------------------------------
+// Bits without a range
+// -----------------------------------------------------------------------------------------------------
 
 constexpr std::string_view kRgbBits = "ColorSpace RedBits Steps GreenBits Steps BlueBits Steps";
 constexpr std::string_view kLabBits = "ColorSpace LumBits Steps ChromABits Steps ChromBBits Steps";
@@ -167,7 +168,8 @@ TEST(Color, AddsToTheSequenceIfAsked)
     walk.Next();
     const std::int32_t at = walk.afp.FieldPosition;
     walk.afp.List().ClearSequenceElements();
-    EXPECT_TRUE(DecodeColor(walk.afp, {at, at + 1, at + 5, ColorSource::Triplet}, &clsAFPFunctions::AddSequenceElement));
+    EXPECT_TRUE(
+        DecodeColor(walk.afp, {at, at + 1, at + 5, ColorSource::Triplet}, &clsAFPFunctions::AddSequenceElement));
     EXPECT_EQ(walk.afp.List().SequenceCount(), 13u);
     EXPECT_FALSE(DecodeColor(walk.afp, {at, at + 4, at + 5, ColorSource::Triplet}, &clsAFPFunctions::AddElement));
 }

@@ -186,7 +186,7 @@ TEST(NOP, ShowsItsContentAsTextAndAsBytes)
     RecordWalk walk(AfpFile().Add("NOP", Ebcdic("Hello, world")));
     walk.Next();
     EXPECT_EQ(NameElements(walk), (Lines{"Text NOPContent Hello, world", "Text ShowResName Hello, world",
-                                  "Text HexCode C8 85 93 93 96 6B 40 A6 96 99 93 84"}));
+                                         "Text HexCode C8 85 93 93 96 6B 40 A6 96 99 93 84"}));
 }
 
 TEST(NOP, IsReadInItsOwnPage)

@@ -36,10 +36,11 @@ void ExpectRecord(std::string_view field, std::string_view pieces, std::string_v
 }
 
 constexpr std::string_view kUnits = "00 01 3840 0960";
-constexpr std::string_view kUnitLines = "Byte UnitBaseX 0 | Base unit X axis: 10 Inch\n"
-                                        "Byte UnitBaseY 1 | Base unit Y axis: 10 Centimeter\n"
-                                        "Int32 PageBaseUnitsX 14400 | Units per unit base X axis: 14,400   (1,440 DPI)\n"
-                                        "Int32 PageBaseUnitsY 2400 | Units per unit base Y axis: 2,400   (240 DPI)\n";
+constexpr std::string_view kUnitLines =
+    "Byte UnitBaseX 0 | Base unit X axis: 10 Inch\n"
+    "Byte UnitBaseY 1 | Base unit Y axis: 10 Centimeter\n"
+    "Int32 PageBaseUnitsX 14400 | Units per unit base X axis: 14,400   (1,440 DPI)\n"
+    "Int32 PageBaseUnitsY 2400 | Units per unit base Y axis: 2,400   (240 DPI)\n";
 constexpr std::string_view kSizes = "002FD0 000A50";
 constexpr std::string_view kSizeLines = "Int32 PageSizeX 12240 | Size in X direction: 12,240   (8.5 Inch)\n"
                                         "Int32 PageSizeY 2640 | Size in Y direction: 2,640   (11 Inch)\n";
@@ -51,7 +52,8 @@ std::string Joined(std::initializer_list<std::string_view> parts)
     return joined;
 }
 
-// PGD, PTD-1, PTD-2 --------------------------------------------------------------------------------------------------------
+// PGD, PTD-1, PTD-2
+// --------------------------------------------------------------------------------------------------------
 
 TEST(PGD, DescribesAPage)
 {
@@ -90,16 +92,17 @@ TEST(PageSize, IsShownInTheUnitsThatPassedLast)
               std::string::npos);
 }
 
-// MDD, CDD, OBD ------------------------------------------------------------------------------------------------------------
+// MDD, CDD, OBD
+// ------------------------------------------------------------------------------------------------------------
 
 TEST(MDD, DescribesAMedium)
 {
     ExpectRecord("MDD", Joined({kUnits, kSizes, "80 03 81 01"}),
                  Joined({kUnitLines, kSizeLines,
                          "Boolean PassCSP 1 | Pass medium orientation to cut-sheet printers: Yes\n", TripletAt(13)}));
-    ExpectRecord("MDD", Joined({kUnits, kSizes, "7F"}),
-                 Joined({kUnitLines, kSizeLines,
-                         "Boolean PassCSP 0 | Pass medium orientation to cut-sheet printers: No"}));
+    ExpectRecord(
+        "MDD", Joined({kUnits, kSizes, "7F"}),
+        Joined({kUnitLines, kSizeLines, "Boolean PassCSP 0 | Pass medium orientation to cut-sheet printers: No"}));
 }
 
 TEST(MDD, HasSizesFromEightBytesOn)
@@ -129,7 +132,8 @@ TEST(CDD, HasItsKeysFromTwelveBytesOn)
 
 TEST(OBD, HoldsTripletsOnly) { ExpectRecord("OBD", "03 81 01", TripletAt(0)); }
 
-// OBP ----------------------------------------------------------------------------------------------------------------------
+// OBP
+// ----------------------------------------------------------------------------------------------------------------------
 
 constexpr std::string_view kPosition = "01 17 0000F0 FFFF10 2D00 8700 00 0005A0 FFFFFF 0000 2D00 01";
 
@@ -184,7 +188,8 @@ TEST(OBP, TellsOfRotationsThatAreNone)
     EXPECT_EQ(shown.heard, (Lines{"Message Invalid Rotation X axis (clockwise): 400° 1'", "Invalid"}));
 }
 
-// IOB, IPO, IPS, IPG, IMM, IDM ---------------------------------------------------------------------------------------------
+// IOB, IPO, IPS, IPG, IMM, IDM
+// ---------------------------------------------------------------------------------------------
 
 constexpr std::string_view kObject = "'LOGO    ' 00 FB 0000F0 FFFF10 0000 2D00 0005A0 000B40 01";
 constexpr std::string_view kObjectLines = "Text Name LOGO     | Name:<b>→LOGO</b>\n"
@@ -227,7 +232,8 @@ TEST(IPO, IncludesAnOverlay)
 TEST(IPO, HasARotationFromSixteenBytesOn)
 {
     for (const std::size_t length : {14u, 15u, 16u, 17u})
-        EXPECT_EQ(Has(ShowRecord({"IPO", Ebcdic8("OVERLAY1") + Zeros(length - 8)}), "RotationX"), length >= 16) << length;
+        EXPECT_EQ(Has(ShowRecord({"IPO", Ebcdic8("OVERLAY1") + Zeros(length - 8)}), "RotationX"), length >= 16)
+            << length;
 }
 
 TEST(IPS, IncludesAPageSegment)
@@ -283,7 +289,8 @@ TEST(Included, NamesAreTrimmedForTheTree)
     }
 }
 
-// Triplets alone -----------------------------------------------------------------------------------------------------------
+// Triplets alone
+// -----------------------------------------------------------------------------------------------------------
 
 TEST(Controls, PassTwoBytes)
 {

@@ -16,7 +16,8 @@ using namespace test;
 
 using Lines = std::vector<std::string>;
 
-// TLE ----------------------------------------------------------------------------------------------------------------------
+// TLE
+// ----------------------------------------------------------------------------------------------------------------------
 
 Lines CaptionOf(const Bytes& triplets) { return ValuesOf(ShowRecord({"TLE", triplets}), "ShowResName"); }
 
@@ -87,7 +88,8 @@ TEST(IEL, HoldsTripletsAndHasNoCaption)
     EXPECT_FALSE(Has(shown, "ShowResName"));
 }
 
-// LLE ----------------------------------------------------------------------------------------------------------------------
+// LLE
+// ----------------------------------------------------------------------------------------------------------------------
 
 Bytes LinkGroup(int type, const Bytes& triplets)
 {
@@ -98,8 +100,7 @@ const Bytes kUrl = TripletOf("02 DE 20 <http://a.b>");
 
 TEST(LLE, LinksASourceToATarget)
 {
-    const Shown shown =
-        ShowRecord({"LLE", Raw({1, 0}) + LinkGroup(2, TripletOf("02 0C 00 'S'")) + LinkGroup(3, kUrl)});
+    const Shown shown = ShowRecord({"LLE", Raw({1, 0}) + LinkGroup(2, TripletOf("02 0C 00 'S'")) + LinkGroup(3, kUrl)});
     ExpectShown(shown.typed, shown.text,
                 "Byte LinkType 1 | Link Type: Navigation\n"
                 "Int16 BeginRepetitionTRP 1 | ¶Element 1\n"
@@ -145,8 +146,8 @@ TEST(LLE, HasAHyperlinkInTheTargetOfANavigationOnly)
 
 TEST(LLE, HasHyperlinksInEachTarget)
 {
-    const Shown shown = ShowRecord(
-        {"LLE", Raw({1, 0}) + LinkGroup(3, kUrl) + LinkGroup(2, kUrl) + LinkGroup(3, kUrl + kUrl)});
+    const Shown shown =
+        ShowRecord({"LLE", Raw({1, 0}) + LinkGroup(3, kUrl) + LinkGroup(2, kUrl) + LinkGroup(3, kUrl + kUrl)});
     EXPECT_EQ(ValuesOf(shown, "Hyperlink").size(), 3u);
     EXPECT_EQ(ValuesOf(shown, "Content").size(), 1u);
 }
@@ -175,7 +176,8 @@ TEST(LLE, OfAGroupLengthBelowTwoHasOneGroup)
     }
 }
 
-// Begins that hold more ----------------------------------------------------------------------------------------------------
+// Begins that hold more
+// ----------------------------------------------------------------------------------------------------
 
 TEST(BDM, TellsHowLineDataAreFormatted)
 {
@@ -209,10 +211,9 @@ TEST(BRS, PassesTwoBytesBehindItsName)
 
 TEST(NamedFields, HaveTripletsBehindTheirName)
 {
-    for (const std::string_view field :
-         {"BPF", "BDI", "BPG", "BGR", "BDG", "BOG", "BAG", "BPT", "BFN", "BSG", "BFM", "BBC", "BIM",
-          "BCA", "BPS", "BMO", "BNG", "BMM", "BOC", "BRG", "EPF", "EDI", "EDT", "ENG", "EPG", "EGR",
-          "EMO", "EBC", "EPT", "ECA", "EOC", "EIM", "ERG"}) {
+    for (const std::string_view field : {"BPF", "BDI", "BPG", "BGR", "BDG", "BOG", "BAG", "BPT", "BFN", "BSG", "BFM",
+                                         "BBC", "BIM", "BCA", "BPS", "BMO", "BNG", "BMM", "BOC", "BRG", "EPF", "EDI",
+                                         "EDT", "ENG", "EPG", "EGR", "EMO", "EBC", "EPT", "ECA", "EOC", "EIM", "ERG"}) {
         const Shown shown = ShowRecord({field, Ebcdic8("NAME") + TripletOf("81 01")});
         EXPECT_EQ(ValuesOf(shown, "UsePGP"), Lines{"1"}) << field;
         EXPECT_EQ(ValuesOf(shown, "ShowResName"), Lines{"NAME"}) << field;
@@ -230,9 +231,8 @@ TEST(BOC, PreparesToGatherWhatIsDecodedFurther)
 {
     const std::string_view entries[] = {"39", "43", "17"};
     for (const std::string_view entry : entries) {
-        FamilyWalk walk(AfpFile().Add(
-            "BOC", Ebcdic8("OBJECT") +
-                       TripletOf("10 00 01 0000 90 00 06072B1200040101" + std::string(entry) + " 00*7")));
+        FamilyWalk walk(AfpFile().Add("BOC", Ebcdic8("OBJECT") + TripletOf("10 00 01 0000 90 00 06072B1200040101" +
+                                                                           std::string(entry) + " 00*7")));
         walk.walk.afp.ObjectBuffer = {1, 2, 3};
         walk.Next();
         const bool gathered = entry != "17";

@@ -61,8 +61,8 @@ TEST(TripletGroups, OfALengthBelowTwoAreTheLast)
 {
     for (const unsigned length : {0u, 1u}) {
         const Shown shown = ShowRecord({"MMD", U2(length) + Group(TripletOf("81 01"))});
-        EXPECT_EQ(shown.elements, (Lines{"BeginRepetitionTRP 1", "Length " + std::to_string(length),
-                                         "EndRepetitionTRP 1"}));
+        EXPECT_EQ(shown.elements,
+                  (Lines{"BeginRepetitionTRP 1", "Length " + std::to_string(length), "EndRepetitionTRP 1"}));
         EXPECT_EQ(shown.text, "\nElement 1\n");
     }
 }

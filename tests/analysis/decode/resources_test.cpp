@@ -38,15 +38,18 @@ std::vector<ReferenceCase> References()
         {"IDM", Ebcdic8("MAP2"), {"9/E/MAP2/MAP2"}},
         {"MPO", TripletGroup(kNamed), {"6/E/OBJECT01/OBJECT01"}},
         {"IPO", Ebcdic8("O1ONE") + Zeros(8), {"6/E/O1ONE/O1ONE"}},
-        {"MMO", Zeros(4) + Zeros(4) + Ebcdic8("O1ONE") + Zeros(4) + Ebcdic8("O1TWO"),
+        {"MMO",
+         Zeros(4) + Zeros(4) + Ebcdic8("O1ONE") + Zeros(4) + Ebcdic8("O1TWO"),
          {"6/E/O1ONE/O1ONE", "6/E/O1TWO/O1TWO"}},
         {"IPS", Ebcdic8("S1ONE") + Zeros(6), {"5/E/S1ONE/S1ONE"}},
-        {"MPS", Zeros(4) + Zeros(4) + Ebcdic8("S1ONE") + Zeros(4) + Ebcdic8("S1TWO"),
+        {"MPS",
+         Zeros(4) + Zeros(4) + Ebcdic8("S1ONE") + Zeros(4) + Ebcdic8("S1TWO"),
          {"5/E/S1ONE/S1ONE", "5/E/S1TWO/S1TWO"}},
         {"IOB", Ebcdic8("LOGO") + Zeros(19), {"4/E/LOGO/LOGO"}},
         {"MDR", TripletGroup(kNamed), {"4/E/OBJECT01/OBJECT01", "3/E/FONT/FONT", "2/E/CHARS/CHARS", "1/E/PAGE/PAGE"}},
         {"MCF-2", TripletGroup(kNamed), {"4/E/OBJECT01/OBJECT01", "3/E/FONT/FONT", "2/E/CHARS/CHARS", "1/E/PAGE/PAGE"}},
-        {"MCF-1", Raw({28, 0, 0, 0, 5, 0, 0, 0}) + Ebcdic("X0FONT  T1PAGE  C0CHARS "),
+        {"MCF-1",
+         Raw({28, 0, 0, 0, 5, 0, 0, 0}) + Ebcdic("X0FONT  T1PAGE  C0CHARS "),
          {"3/E/X0FONT/X0FONT", "3/E/T1PAGE/T1PAGE", "3/E/C0CHARS/C0CHARS"}},
     };
 }
@@ -79,8 +82,8 @@ TEST(AddResource, ShowsNothing)
 TEST(AddResource, OfAGroupForgetsTheGroupBefore)
 {
     const Shown shown = ShowRecord({"MCF-2", TripletGroup(kNamed) + TripletGroup(TripletOf("02 8E 00 'X0OTHER '"))});
-    EXPECT_EQ(ResourcesOf(shown), (Lines{"4/E/OBJECT01/OBJECT01", "3/E/FONT/FONT", "2/E/CHARS/CHARS", "1/E/PAGE/PAGE",
-                                         "3/E/OTHER/OTHER"}));
+    EXPECT_EQ(ResourcesOf(shown),
+              (Lines{"4/E/OBJECT01/OBJECT01", "3/E/FONT/FONT", "2/E/CHARS/CHARS", "1/E/PAGE/PAGE", "3/E/OTHER/OTHER"}));
     EXPECT_EQ(ResourcesOf(ShowRecord({"MPO", TripletGroup(kNamed) + TripletGroup(TripletOf("24 02 01"))})),
               Lines{"6/E/OBJECT01/OBJECT01"});
 }
@@ -100,7 +103,8 @@ TEST(AddResource, CountsCharactersOfAName)
               Lines{"64/I/ÄÄFONT  /FONT  "});
 }
 
-// Resources of the file itself ---------------------------------------------------------------------------------------------
+// Resources of the file itself
+// ---------------------------------------------------------------------------------------------
 
 TEST(AddResource, TellsOfAResourceByItsType)
 {
@@ -140,10 +144,7 @@ TEST(AddResource, OfMapsTellsTheResourceAround)
     EXPECT_EQ(ResourcesOf(walk.Next()), Lines{"8/I/F1FORMAL (MAP3)/MAP3"});
 }
 
-TEST(AddResource, OfAGroupWithoutANameIsNone)
-{
-    EXPECT_EQ(ResourcesOf(ShowRecord({"BNG", Ebcdic8("")})), Lines{});
-}
+TEST(AddResource, OfAGroupWithoutANameIsNone) { EXPECT_EQ(ResourcesOf(ShowRecord({"BNG", Ebcdic8("")})), Lines{}); }
 
 TEST(AddResource, IsNotAddedByOtherFields)
 {

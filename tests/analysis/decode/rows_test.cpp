@@ -27,7 +27,10 @@ Lines ReadOne(const Row& row, const Bytes& bytes, std::int32_t length, const Inp
     return walk.Lines();
 }
 
-Lines ReadOne(const Row& row, const Bytes& bytes) { return ReadOne(row, bytes, static_cast<std::int32_t>(bytes.size())); }
+Lines ReadOne(const Row& row, const Bytes& bytes)
+{
+    return ReadOne(row, bytes, static_cast<std::int32_t>(bytes.size()));
+}
 
 TEST(Rows, ReadNumbers)
 {

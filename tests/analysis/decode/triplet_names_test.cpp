@@ -21,7 +21,8 @@ const std::string k37 = "|!", k500 = "!]", k819 = "OZ";
 
 std::string ContentOf(const Shown& shown) { return ValuesOf(shown, "Content").at(0); }
 
-// x'01' ----------------------------------------------------------------------------------------------------------------
+// x'01'
+// ----------------------------------------------------------------------------------------------------------------
 
 constexpr std::string_view kPage500 = "01 0697 01F4", kPage819 = "01 0697 0333", kNoPage = "01 0697 270F";
 
@@ -75,7 +76,8 @@ TEST(CodePageTriplet, SetsThePagesOfNopAndTleForGood)
 TEST(CodePageTriplet, PassesOverAPageThatIsNotKnown)
 {
     const Bytes comment = TripletOf("65 4F 5A");
-    FamilyWalk walk(AfpFile().Add("BDT", Ebcdic8("DOC") + Zeros(2) + TripletOf(kNoPage) + comment).Add("NOP", Telling()));
+    FamilyWalk walk(
+        AfpFile().Add("BDT", Ebcdic8("DOC") + Zeros(2) + TripletOf(kNoPage) + comment).Add("NOP", Telling()));
     const Shown shown = walk.Next();
     EXPECT_EQ(ContentOf(shown), k37);
     EXPECT_EQ(ValuesOf(shown, "CDPID"), Lines{"9999"});
@@ -98,7 +100,8 @@ TEST(CodePageTriplet, OfAFontIsShownAndNotFollowed)
     EXPECT_EQ(ContentOf(ShowTriplets(TripletOf("20 0697 0333") + TripletOf("65 4F 5A"))), k37);
 }
 
-// x'02', names of characters -------------------------------------------------------------------------------------------
+// x'02', names of characters
+// -------------------------------------------------------------------------------------------
 
 struct NameTypeCase {
     int type;
@@ -187,8 +190,7 @@ TEST(QualifiedName, IsReadAsItsTypeSays)
     const InputPages pages = {.lngInputCP = 37, .lngInputCPNOP = 37, .lngInputCPTLE = 819};
     for (const auto& [type, page, format, hexToo] : kNames) {
         const Bytes name = page == ReadIn::P437 ? Pieces("4F 9B") : Telling();
-        const Shown shown =
-            ShowTriplets(U1(6) + U1(0x02) + U1(static_cast<unsigned>(type)) + U1(0) + name, pages);
+        const Shown shown = ShowTriplets(U1(6) + U1(0x02) + U1(static_cast<unsigned>(type)) + U1(0) + name, pages);
         const std::string expected = page == ReadIn::P437   ? "O¢"
                                      : page == ReadIn::P500 ? k500
                                      : page == ReadIn::Tle  ? k819
@@ -238,7 +240,8 @@ TEST(QualifiedName, OfAnotherFormatHasItsTypeOnly)
     EXPECT_EQ(KeysOf(ShowTriplets(TripletOf("02 EE FF 'NAME'"))), "");
 }
 
-// x'02', Unicode -------------------------------------------------------------------------------------------------------
+// x'02', Unicode
+// -------------------------------------------------------------------------------------------------------
 
 const Bytes kColorManagement = TripletOf("10 00 01 0000 90 00 06072B120004010139 00*7");
 const Bytes kMetadata = TripletOf("10 00 50 0000 90 00 06072B120004010143 00*7");
@@ -273,7 +276,8 @@ TEST(QualifiedName, IsUnicodeUntilTheNextContainer)
     EXPECT_EQ(ContentOf(walk.Next()), k37);
 }
 
-// x'02', object ids and addresses --------------------------------------------------------------------------------------
+// x'02', object ids and addresses
+// --------------------------------------------------------------------------------------
 
 TEST(QualifiedName, CanBeAnObjectId)
 {
@@ -299,7 +303,8 @@ TEST(QualifiedName, CanBeAnAddress)
     EXPECT_EQ(ContentOf(ShowTriplets(TripletOf("02 84 20 9B"))), "¢");  // page 437 whatever the type
 }
 
-// x'10' ----------------------------------------------------------------------------------------------------------------
+// x'10'
+// ----------------------------------------------------------------------------------------------------------------
 
 TEST(ObjectClassification, OfThreeBytesIsPaddingAndTheWalkGoesOn)
 {
@@ -372,7 +377,8 @@ TEST(ObjectClassification, ShowsAnEmptyTypeOfAnUnknownClass)
     EXPECT_NE(shown.text.find("→Registered object type: \n"), std::string::npos);
 }
 
-// x'18', x'1F', x'21', x'27', x'36' ------------------------------------------------------------------------------------
+// x'18', x'1F', x'21', x'27', x'36'
+// ------------------------------------------------------------------------------------
 
 TEST(InterchangeSet, IsSummedUpByItsId)
 {
@@ -389,7 +395,7 @@ TEST(InterchangeSet, IsSummedUpByItsId)
                            {0x0D01, {"MO:DCA AFP/A + IS/3"}},
                            {0x0002, {}}};
     for (const auto& [id, summary] : kCases)
-        EXPECT_EQ(ValuesOf(ShowTriplets(TripletOf("18 01") .replace(0, 1, U1(5)) + U2(id)), "ShowTripletContent"),
+        EXPECT_EQ(ValuesOf(ShowTriplets(TripletOf("18 01").replace(0, 1, U1(5)) + U2(id)), "ShowTripletContent"),
                   summary)
             << id;
 }
@@ -412,13 +418,11 @@ TEST(ResourceObjectType, IsSummedUp)
     };
     // clang-format on
     for (const auto& [type, summary] : kTypes) {
-        const Shown shown =
-            ShowRecord({"BRS", Ebcdic8("NAME") + Zeros(2) + Raw({0x03, 0x21, type})});
+        const Shown shown = ShowRecord({"BRS", Ebcdic8("NAME") + Zeros(2) + Raw({0x03, 0x21, type})});
         EXPECT_EQ(ValuesOf(shown, "ShowTripletContent"), Lines{std::string(summary)});
         EXPECT_EQ(ValuesOf(shown, "ResObjType"), Lines{std::to_string(type)});
     }
-    EXPECT_FALSE(
-        Has(ShowRecord({"BRS", Ebcdic8("NAME") + Zeros(2) + TripletOf("21 A8")}), "ShowTripletContent"));
+    EXPECT_FALSE(Has(ShowRecord({"BRS", Ebcdic8("NAME") + Zeros(2) + TripletOf("21 A8")}), "ShowTripletContent"));
 }
 
 TEST(ResourceObjectType, IsAFunctionSetOnOtherFields)

@@ -29,7 +29,8 @@ Shown ShowCut(std::string_view pieces, unsigned length)
     return ShowTriplets(U1(length) + Pieces(pieces).substr(0, length - 1));
 }
 
-// Angles -----------------------------------------------------------------------------------------------------------------
+// Angles
+// -----------------------------------------------------------------------------------------------------------------
 
 TEST(AngleTriplets, KnowFourAngles)
 {
@@ -63,7 +64,8 @@ TEST(AngleTriplets, AreSummedUpInDegrees)
     EXPECT_EQ(ValuesOfTriplet("26 2D00", "ShowTripletContent"), Lines{"Char rotation: 90°"});
 }
 
-// Offsets and counts -----------------------------------------------------------------------------------------------------
+// Offsets and counts
+// -----------------------------------------------------------------------------------------------------
 
 struct OffsetCase {
     std::string_view start;  // id and, if it has one, the object's type
@@ -139,7 +141,8 @@ TEST(OffsetTriplets, AreSummedUp)
     EXPECT_EQ(ValuesOfTriplet("59 00100000", "ShowTripletContent"), Lines{"Object extend: 1048576"});
 }
 
-// Time stamps ------------------------------------------------------------------------------------------------------------
+// Time stamps
+// ------------------------------------------------------------------------------------------------------------
 
 TEST(TimeStamps, TellTheCenturyByOneCharacter)
 {
@@ -170,7 +173,8 @@ TEST(UniversalTime, HasTwoDigitsAPlaceAndAZone)
     EXPECT_EQ(of("07E8 0C 1F 17 3B 3B 09 01 02"), "2024/12/31 23:59:59 -01:02");
 }
 
-// x'63' ------------------------------------------------------------------------------------------------------------------
+// x'63'
+// ------------------------------------------------------------------------------------------------------------------
 
 TEST(ResourceManagement, GoesByItsFormat)
 {
@@ -191,7 +195,8 @@ TEST(ResourceManagement, TellsScopeAndSavingByBits)
     EXPECT_EQ(ValuesOfTriplet("63 01 0000 BF", "SaveResource"), Lines{"False"});
 }
 
-// x'69' ------------------------------------------------------------------------------------------------------------------
+// x'69'
+// ------------------------------------------------------------------------------------------------------------------
 
 constexpr std::string_view kSymbol = "69 0102 B4 0000 11 02 FF FF07 14 03E8 0F 00E1";
 
@@ -237,7 +242,8 @@ TEST(BarCodeSymbol, DividesTheRatioByTenUntilItIsTenOrLess)
     EXPECT_EQ(of(65'535), "Default");
 }
 
-// x'71', x'75', x'7E' ----------------------------------------------------------------------------------------------------
+// x'71', x'75', x'7E'
+// ----------------------------------------------------------------------------------------------------
 
 TEST(MixingRules, StandInTheOrderOfTheFile)
 {
@@ -280,7 +286,8 @@ TEST(GraphicsDescriptor, ReadsTypeAndLineTypeFromTheByteBefore)
     EXPECT_NE(shown.text.find("→Line width: Drawing default\n"), std::string::npos);
 }
 
-// x'82' ------------------------------------------------------------------------------------------------------------------
+// x'82'
+// ------------------------------------------------------------------------------------------------------------------
 
 TEST(ParameterValue, GoesByItsType)
 {
@@ -321,7 +328,8 @@ TEST(ParameterValue, ShowsANumberAsContent)
                   "Content -2 | Content:→<b>-2</b>");
 }
 
-// x'85', x'86', x'88', x'8B' -----------------------------------------------------------------------------------------------
+// x'85', x'86', x'88', x'8B'
+// -----------------------------------------------------------------------------------------------
 
 TEST(FinishingOperation, HasAsManyPositionsAsItCounts)
 {
@@ -349,12 +357,13 @@ TEST(FinishingOperation, HasOnlyPositionsInsideOfTheTriplet)
 
 TEST(FinishingOperation, CanLeaveTheAxisToThePrinter)
 {
-    EXPECT_NE(ShowTriplets(TripletOf("85 01 0000 FF 00 FFFF")).text.find(
-                  "→Virtual operation axis offset (in mm): Default\n"),
-              std::string::npos);
-    EXPECT_NE(ShowTriplets(TripletOf("85 01 0000 FF 01 FFFE FFFF")).text.find(
-                  "→Virtual operation axis offset (in mm): 65,534\n→Operation position on axis (in mm): 65,535\n"),
-              std::string::npos);
+    EXPECT_NE(
+        ShowTriplets(TripletOf("85 01 0000 FF 00 FFFF")).text.find("→Virtual operation axis offset (in mm): Default\n"),
+        std::string::npos);
+    EXPECT_NE(
+        ShowTriplets(TripletOf("85 01 0000 FF 01 FFFE FFFF"))
+            .text.find("→Virtual operation axis offset (in mm): 65,534\n→Operation position on axis (in mm): 65,535\n"),
+        std::string::npos);
 }
 
 TEST(Fidelity, AsksForAByteOfOne)
@@ -386,8 +395,9 @@ TEST(FontDescriptor, IsABitmapOrAnOutline)
 
 TEST(FontDescriptor, TakesEachFlagFromItsBit)
 {
-    constexpr std::string_view kFlags[] = {"FontItalic",       "FontUnderscored",  "FontTransformation", "FontHollow",
-                                           "FontOverstrucked", "FontProportional", "FontKerned",         "FontTypeFlags"};
+    constexpr std::string_view kFlags[] = {"FontItalic", "FontUnderscored",  "FontTransformation",
+                                           "FontHollow", "FontOverstrucked", "FontProportional",
+                                           "FontKerned", "FontTypeFlags"};
     for (unsigned bit = 0; bit < 8; ++bit) {
         const Shown shown = ShowTriplets(U1(20) + Pieces("1F 07 05 00*4") + U1(0x80u >> bit) + Zeros(11));
         for (unsigned other = 0; other < 8; ++other)
@@ -395,7 +405,8 @@ TEST(FontDescriptor, TakesEachFlagFromItsBit)
     }
 }
 
-// Optional keys ------------------------------------------------------------------------------------------------------------
+// Optional keys
+// ------------------------------------------------------------------------------------------------------------
 
 struct LengthCase {
     unsigned length;
@@ -416,15 +427,16 @@ void ExpectKeysByLength(std::string_view pieces, std::initializer_list<LengthCas
 
 TEST(OptionalKeys, OfAPageOverlayCondition)
 {
-    ExpectKeysByLength("46 01 03", {{2, "OverlayType ShowTripletContent"}, {4, "OverlayType Level ShowTripletContent"}});
+    ExpectKeysByLength("46 01 03",
+                       {{2, "OverlayType ShowTripletContent"}, {4, "OverlayType Level ShowTripletContent"}});
 }
 
 TEST(OptionalKeys, OfAResourceInclude)
 {
     ExpectKeysByLength("6C FB 'SEGMENT1' 00 00F0 FF FF10 2D00", {{11, "ObjectType Name"},
-                                                                  {14, "ObjectType Name OriginX"},
-                                                                  {17, "ObjectType Name OriginX OriginY"},
-                                                                  {19, "ObjectType Name OriginX OriginY RotationX"}});
+                                                                 {14, "ObjectType Name OriginX"},
+                                                                 {17, "ObjectType Name OriginX OriginY"},
+                                                                 {19, "ObjectType Name OriginX OriginY RotationX"}});
 }
 
 TEST(OptionalKeys, OfALocale)
@@ -451,15 +463,14 @@ TEST(OptionalKeys, OfAnEncryption)
 
 TEST(OptionalKeys, OfAContainerSize)
 {
-    ExpectKeysByLength(
-        "9C 0000 02 00 01 0BB8 1770 00012C 000258",
-        {{5, "PDFSize"},
-         {6, "PDFSize UnitBaseX"},
-         {7, "PDFSize UnitBaseX UnitBaseY"},
-         {9, "PDFSize UnitBaseX UnitBaseY ObjectBaseUnitsX"},
-         {11, "PDFSize UnitBaseX UnitBaseY ObjectBaseUnitsX ObjectBaseUnitsY"},
-         {14, "PDFSize UnitBaseX UnitBaseY ObjectBaseUnitsX ObjectBaseUnitsY ObjectSizeX"},
-         {17, "PDFSize UnitBaseX UnitBaseY ObjectBaseUnitsX ObjectBaseUnitsY ObjectSizeX ObjectSizeY"}});
+    ExpectKeysByLength("9C 0000 02 00 01 0BB8 1770 00012C 000258",
+                       {{5, "PDFSize"},
+                        {6, "PDFSize UnitBaseX"},
+                        {7, "PDFSize UnitBaseX UnitBaseY"},
+                        {9, "PDFSize UnitBaseX UnitBaseY ObjectBaseUnitsX"},
+                        {11, "PDFSize UnitBaseX UnitBaseY ObjectBaseUnitsX ObjectBaseUnitsY"},
+                        {14, "PDFSize UnitBaseX UnitBaseY ObjectBaseUnitsX ObjectBaseUnitsY ObjectSizeX"},
+                        {17, "PDFSize UnitBaseX UnitBaseY ObjectBaseUnitsX ObjectBaseUnitsY ObjectSizeX ObjectSizeY"}});
 }
 
 TEST(Locale, ShowsUnicodeLettersWithBlanksBetween)

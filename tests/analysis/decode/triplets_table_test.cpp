@@ -464,10 +464,7 @@ ShowTripletContent Triplet Extender)"},
 };
 // clang-format on
 
-Field FieldOf(const TripletCase& triplet)
-{
-    return {triplet.field, Pieces(triplet.before) + TripletOf(triplet.bytes)};
-}
+Field FieldOf(const TripletCase& triplet) { return {triplet.field, Pieces(triplet.before) + TripletOf(triplet.bytes)}; }
 
 // Names the case in the list of tests.
 std::ostream& operator<<(std::ostream& out, const TripletCase& triplet) { return out << triplet.name; }
@@ -524,8 +521,8 @@ TEST(TripletTable, EachKeyHasALineOrIsKnownToHaveNone)
             if (row->line == Line::Silent) silent.insert(NameOf(element.key));
         }
     }
-    EXPECT_EQ(silent, (std::set<std::string_view>{"TripletStartbyte", "TripletLength", "ShowTripletContent",
-                                                  "AddResource"}));
+    EXPECT_EQ(silent,
+              (std::set<std::string_view>{"TripletStartbyte", "TripletLength", "ShowTripletContent", "AddResource"}));
 }
 
 }  // namespace

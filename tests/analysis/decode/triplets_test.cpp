@@ -38,11 +38,10 @@ std::vector<Lines> GroupsOf(const Shown& shown)
 TEST(TripletWalk, FramesEachTriplet)
 {
     const Shown shown = ShowTriplets(TripletOf("81 01") + TripletOf("81 02"));
-    EXPECT_EQ(shown.elements,
-              (Lines{"TripletStartbyte 10", "TripletLength 3", "BeginTriplet x'81'",
-                     "TripletName x'81' (Page Position Information)", "UsePGP 1", "EndTriplet True",
-                     "TripletStartbyte 13", "TripletLength 3", "BeginTriplet x'81'",
-                     "TripletName x'81' (Page Position Information)", "UsePGP 2", "EndTriplet True"}));
+    EXPECT_EQ(shown.elements, (Lines{"TripletStartbyte 10", "TripletLength 3", "BeginTriplet x'81'",
+                                     "TripletName x'81' (Page Position Information)", "UsePGP 1", "EndTriplet True",
+                                     "TripletStartbyte 13", "TripletLength 3", "BeginTriplet x'81'",
+                                     "TripletName x'81' (Page Position Information)", "UsePGP 2", "EndTriplet True"}));
     EXPECT_EQ(shown.text, "\nTriplet:<b>→x'81' (Page Position Information)</b>\n"
                           "→Use PGP repeating group with ID: 1\n"
                           "\nTriplet:<b>→x'81' (Page Position Information)</b>\n"
@@ -159,9 +158,10 @@ TEST(TripletWalk, SendsAMessageForEachUnknownTriplet)
 TEST(TripletWalk, ATripletThatRunsPastTheFieldIsNotCut)
 {
     // The value's bytes stand in the record behind.
-    const auto file =
-        AfpFile(Packaging::Bare).Add("OBD", Raw({0x09, 0x36, 0x00, 0x00}) + Ebcdic("AB")).Noise(Ebcdic("CDE")).Add(
-            "EPG");
+    const auto file = AfpFile(Packaging::Bare)
+                          .Add("OBD", Raw({0x09, 0x36, 0x00, 0x00}) + Ebcdic("AB"))
+                          .Noise(Ebcdic("CDE"))
+                          .Add("EPG");
     const Shown shown = FamilyWalk(file).Next();
     EXPECT_EQ(IdsOf(shown), Lines{"x'36'"});
     EXPECT_EQ(ValuesOf(shown, "Content"), Lines{"ABCDE"});
@@ -244,9 +244,9 @@ TEST(TripletWalk, BeginsBehindTheFixedPartOfAField)
 
 TEST(TripletWalk, IsNotTakenByFieldsWithoutTriplets)
 {
-    for (const std::string_view field : {"BCF", "BFG", "BPM", "BDX", "BII", "ECF", "EFN", "ECP", "EII", "EDG", "EFG",
-                                         "EFM", "EPM", "EDM", "EAG", "EOG", "ESG", "ERS", "EDX", "EMM", "EPS", "FGD",
-                                         "DXD", "PTD-1", "MSU", "MPS", "MMO"})
+    for (const std::string_view field :
+         {"BCF", "BFG", "BPM", "BDX", "BII", "ECF", "EFN", "ECP", "EII", "EDG",   "EFG", "EFM", "EPM", "EDM",
+          "EAG", "EOG", "ESG", "ERS", "EDX", "EMM", "EPS", "FGD", "DXD", "PTD-1", "MSU", "MPS", "MMO"})
         EXPECT_EQ(IdsOf(ShowRecord({field, Ebcdic8("NAME") + TripletOf("81 05")})), Lines{}) << field;
 }
 

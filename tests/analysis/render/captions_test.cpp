@@ -30,8 +30,7 @@ struct StringSink final : DumpSink {
 };
 
 struct RunOfFile {
-    RunOfFile(const AfpFile& file, const Settings& settings)
-        : document(settings, {}, messages, host)
+    RunOfFile(const AfpFile& file, const Settings& settings) : document(settings, {}, messages, host)
     {
         EXPECT_TRUE(document.ProcessAFPFile(folder.File("input.afp", file.Content())));
     }
@@ -84,9 +83,8 @@ std::vector<std::string> Captions(const RunOfFile& run, std::uint32_t count)
 TEST(Captions, OfIncludesHaveTheirNames)
 {
     const RunOfFile run(Includes(), Plain());
-    EXPECT_EQ(Captions(run, 8),
-              (std::vector<std::string>{"IMM: MAP", "IOB: OBJECT", "IPG: PAGE", "IPO: OVERLAY", "IPS: SEGMENT", "IDM",
-                                        "IOB", "IPS: A B"}));
+    EXPECT_EQ(Captions(run, 8), (std::vector<std::string>{"IMM: MAP", "IOB: OBJECT", "IPG: PAGE", "IPO: OVERLAY",
+                                                          "IPS: SEGMENT", "IDM", "IOB", "IPS: A B"}));
 }
 
 TEST(Captions, OfIncludesCanDoWithoutNames)
@@ -129,9 +127,11 @@ TEST(Captions, AreRedForAnUnknownTriplet)
 
 TEST(Dump, ShowsTheTripletsOfAnAttribute)
 {
-    const auto file = AfpFile().Add("BDT").Add("BPG", Ebcdic8("PAGE0001")).Add(
-        "TLE", Triplet(0x02, Raw({0x0B, 0x00}) + Ebcdic("Account")) +
-                   Triplet(0x36, Raw({0x00, 0x00}) + Ebcdic("4711")));
+    const auto file = AfpFile()
+                          .Add("BDT")
+                          .Add("BPG", Ebcdic8("PAGE0001"))
+                          .Add("TLE", Triplet(0x02, Raw({0x0B, 0x00}) + Ebcdic("Account")) +
+                                          Triplet(0x36, Raw({0x00, 0x00}) + Ebcdic("4711")));
     RunOfFile run(file, {});
     const std::string dump = run.Dump();
     EXPECT_TRUE(dump.ends_with("     ---------\n"

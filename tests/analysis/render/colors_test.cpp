@@ -97,9 +97,8 @@ TEST(ShadingLine, HasAPercentSign)
 
 TEST(ColorValue, IsToldWithItsShare)
 {
-    constexpr LabelCase kValues[] = {{Key::Luminance, "Luminance L*"},
-                                     {Key::ChrominanceA, "Chrominance a*"},
-                                     {Key::ChrominanceB, "Chrominance b*"}};
+    constexpr LabelCase kValues[] = {
+        {Key::Luminance, "Luminance L*"}, {Key::ChrominanceA, "Chrominance a*"}, {Key::ChrominanceB, "Chrominance b*"}};
     LineBench bench;
     for (const auto& [key, label] : kValues) {
         EXPECT_EQ(bench.Text(key, 8), "");

@@ -154,7 +154,8 @@ TEST(IndexOutside, IsToldInWords)
                   "Index outside: Indexed object is outside of the document\n");
 }
 
-// Graphics -----------------------------------------------------------------------------------------------------------------
+// Graphics
+// -----------------------------------------------------------------------------------------------------------------
 
 TEST(RoundedCorners, HaveBothLengthsInOneLine)
 {

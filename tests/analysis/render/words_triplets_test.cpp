@@ -119,8 +119,7 @@ constexpr LabelCase kHexTexts[] = {
 TEST(TripletLines, ShowIdentifiersPlain)
 {
     LineBench bench;
-    for (const auto& [key, label] : kPlainNumbers)
-        EXPECT_EQ(bench.Text(key, 12'345), std::string(label) + ": 12345\n");
+    for (const auto& [key, label] : kPlainNumbers) EXPECT_EQ(bench.Text(key, 12'345), std::string(label) + ": 12345\n");
 }
 
 TEST(TripletLines, ShowCountsWithSeparators)
@@ -178,7 +177,8 @@ TEST(TripletLines, ShowTheDefaultOfACount)
     EXPECT_EQ(bench.AddText(Key::OffsetY, "Default").Text(), "Offset in Y direction: Default\n");
 }
 
-// Words of one key ---------------------------------------------------------------------------------------------------------
+// Words of one key
+// ---------------------------------------------------------------------------------------------------------
 
 void ExpectUnknown(Key key, std::int64_t value, std::string_view label)
 {
@@ -260,7 +260,8 @@ TEST(TripletLines, AreTranslated)
     EXPECT_TRUE(german.Add(Element::Boolean(Key::FontKerned, true)).Text().ends_with(": Ja\n"));
 }
 
-// Keys that show nothing ---------------------------------------------------------------------------------------------------
+// Keys that show nothing
+// ---------------------------------------------------------------------------------------------------
 
 TEST(SilentKeys, ShowNothing)
 {

@@ -355,7 +355,7 @@ TEST_P(EachCodedValue, IsTranslatedIfTheCatalogHasIt)
     LineBench bench(Language::German);
     for (const auto& [value, word] : GetParam().words) {
         if (word.find(", ") != std::string_view::npos && GetParam().others == Flag) continue;  // two words
-        if (value == kElse || word.ends_with("(GRIC)")) continue;                               // and a tail
+        if (value == kElse || word.ends_with("(GRIC)")) continue;                              // and a tail
         EXPECT_EQ(bench.Text(GetParam().key, value),
                   std::string(InGerman(GetParam().label)) + ": " + std::string(InGerman(word)) + '\n');
     }
