@@ -11,6 +11,8 @@ Document::Document(const Settings& settings, NumberStyle numbers, MessageList& m
     tree_ =
         std::make_unique<StructureTree>(settings_, analysis, interface, messages_, static_cast<TreeListener&>(*this));
     renderer_ = std::make_unique<Renderer>(analysis, settings_, style_, *tree_);
+    renderer_->ports = Renderers();
+    renderer_->lines = {settings_.LineWidth(), settings_.LineWidth()};
 }
 
 Document::~Document() = default;

@@ -46,7 +46,7 @@ struct DumpResult {
 class Document final : private TreeListener {
 public:
     Document(const Settings& settings, NumberStyle numbers, MessageList& messages, RunHost& host,
-             const DecodePorts& ports = DecodersOfDeferredBodies());
+             const DecodePorts& ports = Decoders());
     ~Document() override;
 
     // Walks the file. `shownName` stands in the tree in place of the file's name. True if the file was analysed.

@@ -2,6 +2,8 @@
 
 namespace folioscope {
 
-DecodePorts DecodersOfDeferredBodies() { return {}; }
+DecodePorts Decoders() { return {}; }
+
+RenderPorts Renderers() { return {}; }
 
 }  // namespace folioscope

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "analysis/decode/clsAFPFunctions.h"
+#include "analysis/render/renderer.h"
 
 namespace folioscope {
 
-// The decoders of the bodies that the run defers: the only place that knows them all.
-DecodePorts DecodersOfDeferredBodies();
+// Who decodes and who renders the data of each architecture: the only place that knows them all.
+DecodePorts Decoders();
+RenderPorts Renderers();
 
 }  // namespace folioscope

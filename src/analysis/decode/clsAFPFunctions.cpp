@@ -198,7 +198,6 @@ Status clsAFPFunctions::AnalyzeRecord()
         const FieldRow& row = Fields()[field_];
         AddElement(Element::Literal(Key::NodeText, row.NodeText));
         AddElement(Element::Literal(Key::SFName, row.SFName));
-        if (row.body.port != Port::None && FieldPosition < FieldEnd) AddElement(Element::Int16(Key::Unread, 1));
         DecodeBody(row.body);
     }
     // What a Begin field sets holds for its scope, so its net effect is one level more; an End's is one less.
@@ -215,6 +214,22 @@ void clsAFPFunctions::DecodeBody(const FieldBody& body)
     FieldPosition += body.pass;
     if (body.then == Then::Triplets) AnalyzeTriplets(*this, FieldEnd);
     if (body.then == Then::TripletGroups) AnalyzeTripletGroups(*this);
+    if (FieldPosition >= FieldEnd) return;
+    if (body.then == Then::Port) DecodeThrough(body.port);
+    if (body.then == Then::Unread) AddElement(Element::Int16(Key::Unread, 1));
+}
+
+void clsAFPFunctions::DecodeThrough(Port port)
+{
+    PortDecoder decoder = nullptr;
+    switch (port) {
+    case Port::None: break;
+    case Port::Sequences: decoder = ports_.Sequences; break;
+    case Port::Orders: decoder = ports_.Orders; break;
+    case Port::Fields: decoder = ports_.Fields; break;
+    case Port::FontGroups: decoder = ports_.FontGroups; break;
+    }
+    if (decoder != nullptr) decoder(*this);
 }
 
 void clsAFPFunctions::FollowCodePage(std::int32_t page)
@@ -246,16 +261,7 @@ void clsAFPFunctions::AnalyzeSpecificRecord()
 {
     LookAtRecord();
     CodePages.Push();
-    PortDecoder decoder = nullptr;
-    if (field_ != kFieldCount) {
-        switch (Fields()[field_].body.port) {
-        case Port::None: break;
-        case Port::Sequences: decoder = ports_.Sequences; break;
-        case Port::Fields: decoder = ports_.Fields; break;
-        case Port::FontGroups: decoder = ports_.FontGroups; break;
-        }
-    }
-    if (decoder != nullptr) decoder(*this);
+    if (field_ != kFieldCount && Fields()[field_].body.then == Then::Unread) DecodeThrough(Fields()[field_].body.port);
     CodePages.Pop();
 }
 

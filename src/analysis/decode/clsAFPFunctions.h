@@ -17,12 +17,15 @@ namespace folioscope {
 
 class clsAFPFunctions;
 struct FieldBody;
+enum class Port : std::uint8_t;
 
-// Decoders of the bodies that lie above this floor. A body whose decoder is missing adds no Elements.
+// Decoders that lie above this floor: each reads from FieldPosition to FieldEnd. Data whose decoder is missing add no
+// Elements.
 using PortDecoder = void (*)(clsAFPFunctions&);
 struct DecodePorts {
-    PortDecoder Sequences = nullptr;   // PTX
-    PortDecoder Fields = nullptr;      // IPD
+    PortDecoder Sequences = nullptr;   // PTX, the tail of PTD-2
+    PortDecoder Orders = nullptr;      // GAD
+    PortDecoder Fields = nullptr;      // IPD, the tail of IDD
     PortDecoder FontGroups = nullptr;  // FNI, FNM
 };
 
@@ -132,6 +135,10 @@ public:
     Element ObjReadHex(Key key, std::int64_t position, std::int64_t length);
     std::vector<std::uint8_t> CopyObjectBytes(std::int64_t position, std::int64_t length) const;
 
+    // How many bytes of the last item of a text, graphics or image field lay behind its end, 0 to 65,535: the next walk
+    // of any of them passes so many.
+    std::int32_t CarryOverBytes = 0;
+
     std::vector<std::uint8_t> ObjectBuffer;  // object container data, gathered over many records
     ResourceState Resources;
     TripletState Triplets;
@@ -158,6 +165,7 @@ private:
     void AddFailure();
     void TakePadding();
     void DecodeBody(const FieldBody& body);
+    void DecodeThrough(Port port);
     void AddUnknown();
     void AppendText(const ByteView& bytes, std::int32_t lngCodepage, std::int64_t position, std::int64_t length);
     const ByteTexts* TextsOf(std::int32_t lngCodepage);

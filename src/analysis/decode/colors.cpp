@@ -53,46 +53,80 @@ std::optional<std::int64_t> ShareOf(std::int32_t value, int bits, bool isSigned)
     return share;
 }
 
-bool DecodeComponents(clsAFPFunctions& afp, ColorPlace place, std::span<const Component> components, AddToList add)
+// A component's value and its share of the range; false if there is no range.
+bool AddValue(clsAFPFunctions& afp, const Component& component, ColorPlace place, std::int32_t number, AddToList add)
 {
-    std::int32_t at = place.bits;
-    for (const Component& component : components) {
-        const std::uint8_t bits = afp.ByteAt(at++);
-        (afp.*add)(Element::Byte(component.bits, bits));
-        (afp.*add)(Element::Float64(Key::Steps, std::exp2(bits)));
-    }
-    for (std::int32_t i = 0; const Component& component : components) {
-        const std::int32_t p = place.values + i, value = component.isSigned ? afp.ReadSigned(p, 1) : afp.ByteAt(p);
-        (afp.*add)(component.isSigned ? Element::Int16(component.value, value)
-                                      : Element::Byte(component.value, afp.ByteAt(p)));
-        const auto share = ShareOf(value, afp.ByteAt(place.bits + i), component.isSigned);
-        if (!share) return false;
-        (afp.*add)(Element::Int16(component.share, *share));
-        ++i;
-    }
+    const bool tile = place.source == ColorSource::Tile;
+    const int size = tile ? 2 : 1;
+    const std::int32_t p = place.values + number * size;
+    std::int32_t value = component.isSigned ? afp.ReadSigned(p, size) : afp.ReadUnsigned(p, size);
+    if (tile)
+        (afp.*add)(Element::Int32(component.value, value));
+    else if (component.isSigned)
+        (afp.*add)(Element::Int16(component.value, value));
+    else
+        (afp.*add)(Element::Byte(component.value, static_cast<std::uint8_t>(value)));
+    if (tile && component.value == Key::IntensityGreen) value = afp.ByteAt(p);  // sic, of the first byte alone
+    const auto share = ShareOf(value, afp.ByteAt(place.bits + number), component.isSigned);
+    if (share) (afp.*add)(Element::Int16(component.share, *share));
+    return share.has_value();
+}
+
+bool AddValues(clsAFPFunctions& afp, std::span<const Component> components, ColorPlace place, AddToList add)
+{
+    for (std::int32_t number = 0; const Component& component : components)
+        if (!AddValue(afp, component, place, number++, add)) return false;
     return true;
 }
 
-// Coverage and shading are left out where they are 0.
+void AddAllBits(clsAFPFunctions& afp, std::span<const Component> components, std::int32_t bits, AddToList add)
+{
+    for (const Component& component : components) AddBits(afp, component.bits, bits++, add);
+}
+
 void DecodeHighlight(clsAFPFunctions& afp, ColorPlace place, AddToList add)
 {
+    constexpr std::int64_t kFullCoverage = 100;
     (afp.*add)(Element::Int32(Key::HighlightColor, afp.ReadUnsigned(place.values, 2)));
     const std::uint8_t coverage = afp.ByteAt(place.values + 2), shading = afp.ByteAt(place.values + 3);
-    if (coverage != 0) (afp.*add)(Element::Byte(Key::Intensity, coverage));
-    if (shading != 0) (afp.*add)(Element::Byte(Key::Shading, shading));
+    if (place.source == ColorSource::Triplet) {
+        if (coverage != 0) (afp.*add)(Element::Byte(Key::Intensity, coverage));
+        if (shading != 0) (afp.*add)(Element::Byte(Key::Shading, shading));
+        return;
+    }
+    const bool hasCoverage = afp.ByteAt(place.bits + 1) != 0, hasShading = afp.ByteAt(place.bits + 2) != 0;
+    (afp.*add)(hasCoverage ? Element::Byte(Key::Intensity, coverage) : Element::Int16(Key::Intensity, kFullCoverage));
+    (afp.*add)(hasShading ? Element::Byte(Key::Shading, shading) : Element::Int16(Key::Shading, 0));
 }
 
 }  // namespace
+
+void AddBits(clsAFPFunctions& afp, Key bits, std::int32_t position, AddToList add)
+{
+    const std::uint8_t count = afp.ByteAt(position);
+    (afp.*add)(Element::Byte(bits, count));
+    (afp.*add)(Element::Float64(Key::Steps, std::exp2(count)));
+}
 
 bool DecodeColor(clsAFPFunctions& afp, ColorPlace place, AddToList add)
 {
     const std::uint8_t space = afp.ByteAt(place.space);
     (afp.*add)(Element::Byte(Key::ColorSpace, space));
-    for (const auto& [known, components] : kColorSpaces)
-        if (known == space) return DecodeComponents(afp, place, components, add);
+    for (const auto& [known, components] : kColorSpaces) {
+        if (known != space) continue;
+        AddAllBits(afp, components, place.bits, add);
+        return AddValues(afp, components, place, add);
+    }
     if (space == kHighlight) DecodeHighlight(afp, place, add);
     if (space == kStandardOCA) (afp.*add)(Element::Int32(Key::Color, afp.ReadUnsigned(place.values, 2)));
     return true;
+}
+
+void AddRGBBits(clsAFPFunctions& afp, std::int32_t bits) { AddAllBits(afp, kRGB, bits, &clsAFPFunctions::AddElement); }
+
+bool AddRGBValues(clsAFPFunctions& afp, std::int32_t bits, std::int32_t values)
+{
+    return AddValues(afp, kRGB, {0, bits, values, ColorSource::Triplet}, &clsAFPFunctions::AddElement);
 }
 
 }  // namespace folioscope

@@ -2,8 +2,11 @@
 
 #include <array>
 
+#include "analysis/decode/fields_barcode.h"
 #include "analysis/decode/fields_begin_end.h"
 #include "analysis/decode/fields_descriptors.h"
+#include "analysis/decode/fields_graphics.h"
+#include "analysis/decode/fields_object_data.h"
 
 namespace folioscope {
 
@@ -19,7 +22,7 @@ constexpr FieldRow kFields[] = {
     {0xA2'88, "MCC",     "MCC (Medium Copy Count, x'D3 A2 88')"},
     {0xA2'89, "FNM",     "FNM (Font Pattern Map, x'D3 A2 89')", Later(Port::FontGroups)},
     {0xA6'6B, "OBD",     "OBD (Object Area Descriptor, x'D3 A6 6B')", Behind(0, Then::Triplets)},
-    {0xA6'7B, "IID",     "IID (IM Image Input Descriptor, x'D3 A6 7B')"},
+    {0xA6'7B, "IID",     "IID (IM Image Input Descriptor, x'D3 A6 7B')", Fixed(kIID)},
     {0xA6'87, "CPD",     "CPD (Code Page Descriptor, x'D3 A6 87')"},
     {0xA6'88, "MDD",     "MDD (Medium Descriptor, x'D3 A6 88')", By(DecodeMDD)},
     {0xA6'89, "FND",     "FND (Font Descriptor, x'D3 A6 89')"},
@@ -28,13 +31,13 @@ constexpr FieldRow kFields[] = {
     {0xA6'92, "CDD",     "CDD (Container Data Descriptor, x'D3 A6 92')", By(DecodeCDD)},
     {0xA6'9B, "PTD-1",   "PTD-1 (Presentation Text Descriptor [Older Format 1], x'D3 A6 9B')", Fixed(kPTD1)},
     {0xA6'AF, "PGD",     "PGD (Page Descriptor, x'D3 A6 AF')", Fixed(kPGD, 15, Then::Triplets)},
-    {0xA6'BB, "GDD",     "GDD (Graphics Data Descriptor, x'D3 A6 BB')"},
+    {0xA6'BB, "GDD",     "GDD (Graphics Data Descriptor, x'D3 A6 BB')", By(DecodeGDD)},
     {0xA6'C5, "FGD",     "FGD (Form Environment Group Descriptor, x'D3 A6 C5')"},
     {0xA6'E3, "DXD",     "DXD (Data Map Transmission Subcase Descriptor, x'D3 A6 E3')"},
     {0xA6'E7, "LND",     "LND (Line Descriptor, x'D3 A6 E7)"},  // sic, no closing quote
-    {0xA6'EB, "BDD/BSD", "BDD/BSD (Bar Code Data Descriptor/Bar Code Symbol Descriptor, x'D3 A6 EB')"},
-    {0xA6'FB, "IDD",     "IDD (Image Data Descriptor, 'D3 A6 FB')"},  // sic, no x
-    {0xA7'7B, "IOC",     "IOC (IM Image Output Control, x'D3 A7 7B')"},
+    {0xA6'EB, "BDD/BSD", "BDD/BSD (Bar Code Data Descriptor/Bar Code Symbol Descriptor, x'D3 A6 EB')", By(DecodeBDD)},
+    {0xA6'FB, "IDD",     "IDD (Image Data Descriptor, 'D3 A6 FB')", Fixed(kIDD, 9, Port::Fields)},  // sic, no x
+    {0xA7'7B, "IOC",     "IOC (IM Image Output Control, x'D3 A7 7B')", Fixed(kIOC)},
     {0xA7'87, "CPC",     "CPC (Code Page Control, x'D3 A7 87')"},
     {0xA7'88, "MMC",     "MMC (Medium Modification Control, x'D3 A7 88')"},
     {0xA7'89, "FNC",     "FNC (Font Control, x'D3 A7 89')"},
@@ -43,20 +46,20 @@ constexpr FieldRow kFields[] = {
     {0xA7'A8, "PEC",     "PEC (Presentation Environment Control, x'D3 A7 A8')", Behind(2, Then::Triplets)},
     {0xA7'AF, "PMC",     "PMC (Page Modification Control, x'D3 A7 AF')"},
     {0xA7'CA, "CCP",     "CCP (Conditional Processing Control, x'D3 A7 CA')"},
-    {0xA8'5F, "BPS",     "BPS (Begin Page Segment, x'D3 A8 5F')", By(DecodeNamed)},
-    {0xA8'77, "BCA",     "BCA (Begin Color Attribute Table, x'D3 A8 77')", By(DecodeNamed)},
+    {0xA8'5F, "BPS",     "BPS (Begin Page Segment, x'D3 A8 5F')", By(DecodeBeginData)},
+    {0xA8'77, "BCA",     "BCA (Begin Color Attribute Table, x'D3 A8 77')", By(DecodeBeginData)},
     {0xA8'7B, "BII",     "BII (Begin IM Image, x'D3 A8 7B')", By(DecodeNameOnly)},
     {0xA8'87, "BCP",     "BCP (Begin Code Page, x'D3 A8 87')", By(DecodeNameAndTriplets)},
     {0xA8'89, "BFN",     "BFN (Begin Font, x'D3 A8 89')", By(DecodeNamed)},
     {0xA8'8A, "BCF",     "BCF (Begin Coded Font, x'D3 A8 8A')", By(DecodeNameOnly)},
     {0xA8'92, "BOC",     "BOC (Begin Object Container, x'D3 A8 92')", By(DecodeBOC)},
-    {0xA8'9B, "BPT",     "BPT (Begin Presentation Text Object, x'D3 A8 9B')", By(DecodeNamed)},
+    {0xA8'9B, "BPT",     "BPT (Begin Presentation Text Object, x'D3 A8 9B')", By(DecodeBeginData)},
     {0xA8'A5, "BPF",     "BPF (Begin Print File, x'D3 A8 A5')", By(DecodeNamed)},
     {0xA8'A7, "BDI",     "BDI (Begin Document Index, x'D3 A8 A7')", By(DecodeNamed)},
     {0xA8'A8, "BDT",     "BDT (Begin Document, x'D3 A8 A8')", By(DecodeNamedReserved)},
     {0xA8'AD, "BNG",     "BNG (Begin Named Group, x'D3 A8 AD')", By(DecodeBNG)},
     {0xA8'AF, "BPG",     "BPG (Begin Page, x'D3 A8 AF')", By(DecodeNamed)},
-    {0xA8'BB, "BGR",     "BGR (Begin Graphics Object, x'D3 A8 BB')", By(DecodeNamed)},
+    {0xA8'BB, "BGR",     "BGR (Begin Graphics Object, x'D3 A8 BB')", By(DecodeBeginData)},
     {0xA8'C4, "BDG",     "BDG (Begin Document Environment Group, x'D3 A8 C4')", By(DecodeNamed)},
     {0xA8'C5, "BFG",     "BFG (Begin Form Environment Group, x'D3 A8 C5')", By(DecodeNameOnly)},
     {0xA8'C6, "BRG",     "BRG (Begin Resource Group, x'D3 A8 C6')", By(DecodeBRG)},
@@ -120,7 +123,7 @@ constexpr FieldRow kFields[] = {
     {0xAB'EB, "MBC",     "MBC (Map Bar Code Object, x'D3 AB EB')", Behind(2, Then::Triplets)},
     {0xAB'FB, "MIO",     "MIO (Map Image Object, x'D3 AB FB')", Behind(2, Then::Triplets)},
     {0xAC'6B, "OBP",     "OBP (Object Area Position, x'D3 AC 6B')", By(DecodeOBP)},
-    {0xAC'7B, "ICP",     "ICP (IM Image Cell Position, x'D3 AC 7B')"},
+    {0xAC'7B, "ICP",     "ICP (IM Image Cell Position, x'D3 AC 7B')", Fixed(kICP)},
     {0xAC'89, "FNP",     "FNP (Font Position, x'D3 AC 89')"},
     {0xAC'AF, "PGP-1",   "PGP-1 (Page Position [Older Format 1], x'D3 AC AF')"},
     {0xAD'C3, "PPO",     "PPO (Preprocess Presentation Object, x'D3 AD C3')", By(DecodePPO)},
@@ -129,22 +132,22 @@ constexpr FieldRow kFields[] = {
     {0xAF'AF, "IPG",     "IPG (Include Page, x'D3 AF AF')", By(DecodeIPG)},
     {0xAF'C3, "IOB",     "IOB (Include Object, x'D3 AF C3')", By(DecodeIOB)},
     {0xAF'D8, "IPO",     "IPO (Include Page Overlay, x'D3 AF D8')", By(DecodeIPO)},
-    {0xB0'77, "CAT",     "CAT (Color Attribute Table, x'D3 B0 77')"},
+    {0xB0'77, "CAT",     "CAT (Color Attribute Table, x'D3 B0 77')", By(DecodeCAT)},
     {0xB1'5F, "MPS",     "MPS (Map Page Segment, x'D3 B1 5F')", By(DecodeMPS)},
     {0xB1'8A, "MCF-1",   "MCF-1 (Map Coded Font [Older Format 1], x'D3 B1 8A')", By(DecodeMCF1)},
-    {0xB1'9B, "PTD-2",   "PTD-2 (Presentation Text Data Descriptor [Newer Format 2], x'D3 B1 9B')", Fixed(kPTD2, 14)},
+    {0xB1'9B, "PTD-2",   "PTD-2 (Presentation Text Data Descriptor [Newer Format 2], x'D3 B1 9B')", Fixed(kPTD2, 14, Port::Sequences)},
     {0xB1'AF, "PGP-2",   "PGP (Page Position [Newer Format 2], x'D3 B1 AF')"},  // sic, no number
     {0xB1'DF, "MMO",     "MMO (Map Medium Overlay, x'D3 B1 DF')", By(DecodeMMO)},
     {0xB2'88, "PFC",     "PFC (Presentation Fidelity Control, x'D3 B2 88')"},
     {0xB2'A7, "IEL",     "IEL (Index Element, x'D3 B2 A7')", Behind(0, Then::Triplets)},
     {0xB4'90, "LLE",     "LLE (Link Logical Element, x'D3 B4 90')", By(DecodeLLE)},
-    {0xEE'7B, "IRD",     "IRD (IM Image Raster Data, x'D3 EE 7B')"},
-    {0xEE'89, "FNG",     "FNG (Font Patterns, x'D3 EE 89')"},
-    {0xEE'92, "OCD",     "OCD (Object Container Data, x'D3 EE 92')"},
+    {0xEE'7B, "IRD",     "IRD (IM Image Raster Data, x'D3 EE 7B')", By(DecodeIRD)},
+    {0xEE'89, "FNG",     "FNG (Font Patterns, x'D3 EE 89')", By(DecodeFNG)},
+    {0xEE'92, "OCD",     "OCD (Object Container Data, x'D3 EE 92')", By(DecodeOCD)},
     {0xEE'9B, "PTX",     "PTX (Presentation Text Data, x'D3 EE 9B')", Later(Port::Sequences)},
-    {0xEE'BB, "GAD",     "GAD (Graphics Data, x'D3 EE BB')"},
-    {0xEE'EB, "BDA/BSA", "BDA/BSA (Bar Code Data/Bar Code Symbol Data, x'D3 EE EB')"},
-    {0xEE'EC, "FDX",     "FDX (Fix Data Text, x'D3 EE EC')"},
+    {0xEE'BB, "GAD",     "GAD (Graphics Data, x'D3 EE BB')", Through(Port::Orders)},
+    {0xEE'EB, "BDA/BSA", "BDA/BSA (Bar Code Data/Bar Code Symbol Data, x'D3 EE EB')", By(DecodeBDA)},
+    {0xEE'EC, "FDX",     "FDX (Fix Data Text, x'D3 EE EC')", By(DecodeFDX)},
     {0xEE'EE, "NOP",     "NOP (No Operation, x'D3 EE EE')", By(DecodeNOP)},
     {0xEE'FB, "IPD",     "IPD (Image Picture Data, x'D3 EE FB')", Later(Port::Fields)},
 };

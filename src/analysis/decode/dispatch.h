@@ -11,11 +11,11 @@ namespace folioscope {
 
 class clsAFPFunctions;
 
-// What reads the body of a field that was deferred in the run.
-enum class Port : std::uint8_t { None, Sequences, Fields, FontGroups };
+// Who reads data that belong to another architecture: text, graphics, images, fonts.
+enum class Port : std::uint8_t { None, Sequences, Orders, Fields, FontGroups };
 
-// What follows behind the fixed part of a field.
-enum class Then : std::uint8_t { Nothing, Triplets, TripletGroups };
+// What follows behind the fixed part of a field. Unread: data that the run leaves for later.
+enum class Then : std::uint8_t { Nothing, Triplets, TripletGroups, Port, Unread };
 
 // How the data of a field are read: fixed rows, then a step to what follows, or a procedure in place of both.
 struct FieldBody {
@@ -23,16 +23,21 @@ struct FieldBody {
     std::int16_t pass = 0;           // bytes from there to what follows
     Then then = Then::Nothing;
     void (*procedure)(clsAFPFunctions&) = nullptr;
-    Port port = Port::None;  // the data are left for later (Unread) and read through this port
+    Port port = Port::None;
 };
 
 constexpr FieldBody Fixed(std::span<const Row> rows, std::int16_t pass = 0, Then then = Then::Nothing)
 {
     return {rows, pass, then};
 }
+constexpr FieldBody Fixed(std::span<const Row> rows, std::int16_t pass, Port port)
+{
+    return {rows, pass, Then::Port, nullptr, port};
+}
+constexpr FieldBody Through(Port port) { return {{}, 0, Then::Port, nullptr, port}; }
 constexpr FieldBody Behind(std::int16_t pass, Then then) { return {{}, pass, then}; }
 constexpr FieldBody By(void (*procedure)(clsAFPFunctions&)) { return {{}, 0, Then::Nothing, procedure}; }
-constexpr FieldBody Later(Port port) { return {{}, 0, Then::Nothing, nullptr, port}; }
+constexpr FieldBody Later(Port port) { return {{}, 0, Then::Unread, nullptr, port}; }
 
 // One structured field. `id` is the category and the type byte behind x'D3'.
 struct FieldRow {

@@ -41,6 +41,12 @@ void DecodeNamed(clsAFPFunctions& afp)
     ShowResourceName(afp);
 }
 
+void DecodeBeginData(clsAFPFunctions& afp)
+{
+    afp.CarryOverBytes = 0;
+    DecodeNamed(afp);
+}
+
 void DecodeNamedReserved(clsAFPFunctions& afp)
 {
     ReadNameIfGiven(afp, kNameLength + kReserved);
@@ -120,8 +126,8 @@ void DecodeBMM(clsAFPFunctions& afp)
 void DecodeBOC(clsAFPFunctions& afp)
 {
     afp.Triplets.colorManagement = afp.Triplets.metadata = false;
-    DecodeNamed(afp);
-    if (afp.Triplets.colorManagement || afp.Triplets.metadata) afp.ObjectBuffer.assign(1, 0);
+    DecodeBeginData(afp);
+    if (afp.Triplets.colorManagement || afp.Triplets.metadata) afp.ObjectBuffer.clear();
 }
 
 // No Operation: the content is text by custom, so it is shown as text and, in the hex pane, as bytes.

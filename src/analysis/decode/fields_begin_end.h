@@ -6,6 +6,7 @@ class clsAFPFunctions;
 
 // The Begin and End fields, whose data begin with an 8-byte name, and the fields that stand between them.
 void DecodeNamed(clsAFPFunctions&);            // the common form: name, triplets, name in the tree
+void DecodeBeginData(clsAFPFunctions&);        // its data begin anew: nothing is left of the item before
 void DecodeNamedReserved(clsAFPFunctions&);    // the same with two reserved bytes behind the name: BDT
 void DecodeNameOnly(clsAFPFunctions&);         // name, name in the tree
 void DecodeNameAndTriplets(clsAFPFunctions&);  // name, triplets

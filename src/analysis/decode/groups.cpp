@@ -48,6 +48,22 @@ void AnalyzeGroups(clsAFPFunctions& afp, std::int32_t size, GroupDecoder decode)
     }
 }
 
+void AnalyzeByteLengthGroups(clsAFPFunctions& afp, GroupDecoder decode)
+{
+    for (int number = 1; afp.FieldPosition < afp.FieldEnd; ++number) {
+        const std::int32_t length = afp.ByteAt(afp.FieldPosition);
+        AnalyzeGroup(afp, kPlainGroup, number, length, decode);
+        if (length < 1) break;
+    }
+}
+
+void AnalyzeTypedGroups(clsAFPFunctions& afp, GroupDecoder decode)
+{
+    constexpr std::int32_t kTypeAndLength = 2;
+    for (int number = 1; afp.FieldPosition < afp.FieldEnd; ++number)
+        AnalyzeGroup(afp, kPlainGroup, number, afp.ByteAt(afp.FieldPosition + 1) + kTypeAndLength, decode);
+}
+
 void AnalyzeLengthGroups(clsAFPFunctions& afp, GroupDecoder decode) { AnalyzeLengthGroups(afp, kPlainGroup, decode); }
 
 void AnalyzeTripletGroups(clsAFPFunctions& afp, GroupDecoder decode)

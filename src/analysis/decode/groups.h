@@ -16,7 +16,11 @@ void AnalyzeGroups(clsAFPFunctions& afp, std::int32_t size, GroupDecoder decode)
 
 // Groups that begin with a two-byte length, which counts itself; a length below 2 is the last one.
 void AnalyzeLengthGroups(clsAFPFunctions& afp, GroupDecoder decode);
-// The same for groups of triplets, which are told without bold.
+// Groups that begin with a one-byte length, which counts itself; a length of 0 is the last one.
+void AnalyzeByteLengthGroups(clsAFPFunctions& afp, GroupDecoder decode);
+// Groups that begin with a type and a one-byte length of what follows.
+void AnalyzeTypedGroups(clsAFPFunctions& afp, GroupDecoder decode);
+// The same as AnalyzeLengthGroups for groups of triplets, which are told without bold.
 void AnalyzeTripletGroups(clsAFPFunctions& afp, GroupDecoder decode);
 void AnalyzeTripletGroups(clsAFPFunctions& afp);
 

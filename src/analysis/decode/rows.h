@@ -9,6 +9,9 @@ namespace folioscope {
 
 class clsAFPFunctions;
 
+// Whether a decoder's Elements go to the record or to the sequence in hand.
+using AddToList = void (clsAFPFunctions::*)(const Element&);
+
 // How a row reads its value.
 enum class Read : std::uint8_t {
     Byte,
@@ -19,6 +22,7 @@ enum class Read : std::uint8_t {
     IsOne,     // Boolean: the byte is 1
     HighHalf,  // the upper four bits
     LowHalf,
+    In256,   // a byte of whole numbers, as 256ths
     Angle,   // 0x00, 0x2D, 0x5A, 0x87: 0 to 270 degrees; another byte adds nothing
     Inches,  // two bytes, in 1440ths of an inch
     True,    // a Boolean without bytes
@@ -53,6 +57,7 @@ constexpr Row inside(Row row)
 }
 
 // Adds an Element for each row. `base` is the buffer index of offset 0, `length` the bytes from there on.
+void ReadRows(clsAFPFunctions& afp, std::span<const Row> rows, std::int32_t base, std::int32_t length, AddToList add);
 void ReadRows(clsAFPFunctions& afp, std::span<const Row> rows, std::int32_t base, std::int32_t length);
 
 // Degrees of an angle byte, or -1 for a byte that is none.

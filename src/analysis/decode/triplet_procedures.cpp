@@ -6,6 +6,7 @@
 
 #include "analysis/decode/clsAFPFunctions.h"
 #include "analysis/decode/colors.h"
+#include "analysis/decode/fields_barcode.h"
 #include "base/numbers.h"
 #include "base/text.h"
 
@@ -215,12 +216,9 @@ void DecodeBarCodeSymbol(clsAFPFunctions& afp, TripletPlace place)
     if (place.length < kWithDescriptor)
         return afp.AddElement(Element::Int32(Key::UseBCSymbol, afp.ReadUnsigned(place.start + 2, 2)));
     ReadRows(afp, kBarCodeSymbol, place.start, place.length);
-    const bool below = afp.ReadBit(place.start + 4, 1), above = afp.ReadBit(place.start + 4, 2);
-    afp.AddElement(Element::Int16(Key::HRIPos, below ? 1 : above ? 2 : 0));
+    AddHRIPosition(afp, place.start + 4);
     ReadRows(afp, kBarCodeSymbolRest, place.start, place.length);
-    double ratio = afp.ReadUnsigned(place.start + 16, 2);
-    while (ratio > 10) ratio /= 10;
-    afp.AddElement(Element::Float64(Key::BCRatio, ratio));
+    AddWideToNarrow(afp, place.start + 16);
 }
 
 void DecodeMixingRules(clsAFPFunctions& afp, TripletPlace place)

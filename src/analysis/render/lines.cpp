@@ -1,8 +1,9 @@
 #include "analysis/render/lines.h"
 
-#include <array>
-
+#include "analysis/render/words_colors.h"
 #include "analysis/render/words_common.h"
+#include "analysis/render/words_graphics.h"
+#include "analysis/render/words_objects.h"
 #include "analysis/render/words_triplets.h"
 #include "analysis/render/words_values.h"
 
@@ -10,21 +11,8 @@ namespace folioscope {
 
 namespace {
 
-// Key to row, over the tables of all families. A key that two of them claim doesn't compile.
-constexpr auto kLineOf = [] {
-    std::array<const LineRow*, static_cast<std::size_t>(Key::KeyCount)> index{};
-    const auto enter = [&](const auto& lines) {
-        for (const LineRow& line : lines) {
-            auto& place = index[static_cast<std::size_t>(line.key)];
-            if (place != nullptr) throw "two lines for one key";
-            place = &line;
-        }
-    };
-    enter(kCommonLines);
-    enter(kValueLines);
-    enter(kTripletLines);
-    return index;
-}();
+constexpr LineIndex kLineOf =
+    IndexOf(kCommonLines, kValueLines, kTripletLines, kColorLines, kGraphicsLines, kObjectLines);
 
 struct ColorRow {
     std::int32_t first, last;

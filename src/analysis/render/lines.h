@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 
@@ -19,7 +21,10 @@ enum class Line : std::uint8_t {
     Quoted,  // a text between double quotes
     Hex,     // x'...'
     Words,   // the word of the value
+    Three,   // with thousands separators, at least three digits
+    Plus,    // with thousands separators behind a plus, whatever the sign
     Custom,  // a line of its own shape
+    Keep,    // no line: a later one shows it
     Silent,  // no line
 };
 
@@ -52,6 +57,24 @@ struct LineRow {
 constexpr LineRow Own(Key key, void (*custom)(Renderer&, const Element&), Wording label = {})
 {
     return {key, Line::Custom, label, {}, Other::Nothing, custom};
+}
+
+// Key to row; null for a key without one.
+using LineIndex = std::array<const LineRow*, static_cast<std::size_t>(Key::KeyCount)>;
+
+// The index of some tables. A key that two of them claim doesn't compile.
+template <class... Tables> constexpr LineIndex IndexOf(const Tables&... tables)
+{
+    LineIndex index{};
+    const auto enter = [&](const auto& lines) {
+        for (const LineRow& line : lines) {
+            auto& place = index[static_cast<std::size_t>(line.key)];
+            if (place != nullptr) throw "two lines for one key";
+            place = &line;
+        }
+    };
+    (enter(tables), ...);
+    return index;
 }
 
 // The line of a key; null for a key that no renderer knows, which writes nothing.

@@ -29,6 +29,30 @@ std::size_t GroupedLength(std::int64_t value, const NumberStyle& style)
 
 }  // namespace
 
+void KeptElements::Keep(const Element& element)
+{
+    std::size_t at = 0;
+    while (at < size_ && elements_[at].key != element.key) ++at;
+    if (at == elements_.size()) return;
+    elements_[at] = element;
+    if (at == size_) ++size_;
+}
+
+Element KeptElements::Of(Key key) const
+{
+    for (std::size_t at = 0; at < size_; ++at)
+        if (elements_[at].key == key) return elements_[at];
+    return {};
+}
+
+void RecordState::Reset()
+{
+    bits = intensity = colorValue = {};
+    barCodeType = x = y = 0;
+    arc = {};
+    kept.Clear();
+}
+
 Renderer::Renderer(Labels analysisLabels, const Settings& userSettings, NumberStyle numbers, NodeSink& nodes)
     : labels(analysisLabels), settings(userSettings), style(std::move(numbers)), sink(nodes)
 {
@@ -45,15 +69,33 @@ std::string_view Renderer::Say(Wording wording) const
 void Renderer::RenderStructuredField(const ElementList& elements)
 {
     list = &elements;
-    record = {};
-    for (const Element& element : elements.Elements()) RenderElement(element);
+    record.Reset();
+    for (const Element& element : elements.Elements()) RenderElement(LineOf(element.key), element);
 }
 
-void Renderer::RenderElement(const Element& element)
+void Renderer::RenderLines(std::span<const Element> elements, const LineIndex& lineOf)
 {
-    const LineRow* row = LineOf(element.key);
+    const RecordState outer = record;
+    record.Reset();
+    for (const Element& element : elements) RenderElement(lineOf[static_cast<std::size_t>(element.key)], element);
+    record = outer;
+}
+
+void Renderer::RenderItems(std::span<const Element> items, const LineIndex& lineOf, std::string_view origin)
+{
+    outerIndent_.swap(IndentText);
+    IndentText = ": ";
+    origin_ = origin;
+    RenderLines(items, lineOf);
+    origin_ = {};
+    outerIndent_.swap(IndentText);
+}
+
+void Renderer::RenderElement(const LineRow* row, const Element& element)
+{
     if (row == nullptr || row->line == Line::Silent) return;
     if (row->line == Line::Custom) return row->custom(*this, element);
+    if (row->line == Line::Keep) return record.kept.Keep(element);
     if (row->line == Line::Words) return RenderWords(*row, element);
     if (row->line == Line::Bold) {
         std::string& out = text.Open();
@@ -69,6 +111,8 @@ void Renderer::RenderElement(const Element& element)
     switch (row->line) {
     case Line::Plain: AppendValue(out, element); break;
     case Line::Count: AppendNumber(out, element, Picture::Grouped); break;
+    case Line::Three: AppendNumber(out, element, Picture::GroupedThree); break;
+    case Line::Plus: AppendNumber(out, element, Picture::Plus); break;
     case Line::Flag: out += Say(element.number != 0 ? L("Yes") : L("No")); break;
     case Line::Quoted:
         out += '"';
@@ -171,7 +215,9 @@ void Renderer::RedLine(Wording label, Label fault, std::string_view value)
 void Renderer::PutFault(Wording label, Label fault, std::string_view value)
 {
     RedLine(label, fault, value);
-    std::string message(Say(label));
+    std::string message(origin_);
+    if (!origin_.empty()) message += IndentText;
+    message += Say(label);
     message += ": ";
     message += Say(fault);
     message += " (";
@@ -328,6 +374,12 @@ void RenderBeginColor(Renderer& renderer, const Element& element)
 void RenderEndOfGroup(Renderer& renderer, const Element&)
 {
     if (!renderer.IndentText.empty()) renderer.IndentText.pop_back();
+}
+
+void RenderItemName(Renderer& renderer, const Element& element)
+{
+    renderer.IndentText.assign(renderer.TextOf(element));
+    renderer.IndentText += ": ";
 }
 
 }  // namespace folioscope

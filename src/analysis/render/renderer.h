@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -30,11 +31,39 @@ struct LineState {
     bool operator==(const LineState&) const = default;
 };
 
-// What one Element leaves for a later one of the same record.
+// Elements that wait for a later one of the same record or sequence, the last one of each key. More than fit are not
+// kept: no structure has so many keys that wait.
+class KeptElements {
+public:
+    void Keep(const Element& element);
+    Element Of(Key key) const;  // a number 0 if none is kept
+    void Clear() { size_ = 0; }
+
+private:
+    std::array<Element, 24> elements_;
+    std::size_t size_ = 0;
+};
+
+// What Elements leave for later ones of the same record or sequence.
 struct RecordState {
+    void Reset();
+
     Element bits, intensity, colorValue;
-    std::int64_t barCodeType = 0, boxEdge = 0;
+    std::int64_t barCodeType = 0;
+    std::int64_t x = 0, y = 0;  // the current position of a drawing
     std::array<std::int64_t, 4> arc{};
+    KeptElements kept;
+};
+
+struct Renderer;
+
+// Renderers of sequences, which lie above this floor. A sequence whose renderer is missing writes nothing.
+using SequenceRenderer = void (*)(Renderer&, std::span<const Element>);
+struct RenderPorts {
+    SequenceRenderer Sequences = nullptr;  // ArrayElementValue: presentation text
+    SequenceRenderer Orders = nullptr;     // OrderElementValue: graphics
+    SequenceRenderer Fields = nullptr;     // SDFElementValue: images
+    SequenceRenderer FontArray = nullptr;  // FontArrayValue
 };
 
 // Turns the Elements of a record into its property text, and tells the tree what concerns it.
@@ -43,6 +72,11 @@ struct Renderer {
 
     // Walks the Elements in order. Adds to `text`; the caller clears it between records.
     void RenderStructuredField(const ElementList& elements);
+    // Elements by lines of their own, with a state of their own.
+    void RenderLines(std::span<const Element> elements, const LineIndex& lineOf);
+    // The same for the items of a data object: IndentText is the item's name and ": ", and the messages of unknown
+    // values begin with `origin` and the name.
+    void RenderItems(std::span<const Element> items, const LineIndex& lineOf, std::string_view origin);
 
     // The three lines that head every record: name, start (SFStart counts from 1, the line from 0) and length in bytes.
     void AppendHeadLines(std::string& out, std::string_view SFName, std::int32_t SFStart, std::int32_t SFLength) const;
@@ -73,6 +107,7 @@ struct Renderer {
     std::string IndentText;  // tabs in front of each line
     UnitState units;
     LineState lines;
+    RenderPorts ports;
 
     // Of the record in hand.
     const ElementList* list = nullptr;
@@ -81,10 +116,12 @@ struct Renderer {
     std::int32_t SFStart = 0, SFLength = 0;
 
 private:
-    void RenderElement(const Element& element);
+    void RenderElement(const LineRow* row, const Element& element);
     void RenderWords(const LineRow& row, const Element& element);
     void PutFault(Wording label, Label fault, std::string_view value);
 
+    std::string_view origin_;  // of the items in hand; empty outside of them
+    std::string outerIndent_;
     std::size_t headWords_;  // characters of the head lines that are the same for all records
 };
 
@@ -102,5 +139,12 @@ void RenderBeginRepetition(Renderer&, const Element&);
 void RenderBeginRepetitionTRP(Renderer&, const Element&);
 void RenderBeginColor(Renderer&, const Element&);
 void RenderEndOfGroup(Renderer&, const Element&);
+void RenderItemName(Renderer&, const Element&);  // the name that the lines behind it begin with
+
+// The sequence's line is a text of its own, made by a port.
+template <SequenceRenderer RenderPorts::*port> void RenderThrough(Renderer& renderer, const Element& element)
+{
+    if (const SequenceRenderer render = renderer.ports.*port) render(renderer, renderer.list->SequenceOf(element));
+}
 
 }  // namespace folioscope

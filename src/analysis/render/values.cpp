@@ -19,19 +19,6 @@ constexpr TwoWordsRow kTwoWords[] = {
     {Key::Overprint, true,  L("Yes"), L("Add")},
     {Key::Overprint, false, L("No"),  L("Replace")},
 };
-
-// The letters under which the four arc parameters are shown, in their order in the line.
-struct ArcRow {
-    Key key;
-    std::size_t place;
-};
-constexpr ArcRow kArcs[] = {
-    {Key::MajorX, 0},
-    {Key::MinorY, 1},
-    {Key::MinorX, 2},
-    {Key::MajorY, 3},
-};
-constexpr Wording kArcLetters[] = {L("P"), L("Q"), L("R"), L("S")};
 // clang-format on
 
 Wording LabelOf(const Element& element) { return LineOf(element.key)->label; }
@@ -133,63 +120,9 @@ void RenderHyperlink(Renderer& renderer, const Element& element)
     renderer.EndLine();
 }
 
-// Both lengths of a rounded corner stand in one line.
-void RenderBoxEdge(Renderer& renderer, const Element& element)
-{
-    if (element.key == Key::BoxEdgeHAxis) {
-        renderer.record.boxEdge = element.number;
-        return;
-    }
-    std::string& out = renderer.BeginLine(L("Rounded corner ellipse length X axis"));
-    AppendFormatted(out, renderer.record.boxEdge, Picture::Grouped, renderer.style);
-    out += ", ";
-    out += renderer.Say(L("Rounded corner ellipse length Y axis"));
-    out += ": ";
-    AppendFormatted(out, element.number, Picture::Grouped, renderer.style);
-    renderer.EndLine();
-}
-
 void RenderRadius(Renderer& renderer, const Element& element)
 {
     renderer.AppendNumber(renderer.BeginLine(LabelOf(element)), element, Picture::OneToThree);
-    renderer.EndLine();
-}
-
-// In 256ths of the normal line width; 0 is the normal width itself.
-void RenderLineWidth(Renderer& renderer, const Element& element)
-{
-    LineState& lines = renderer.lines;
-    if (element.number == 0) {
-        lines.CurrentLineWidth = lines.NormalLineWidth;
-        return renderer.PutLine(LabelOf(element), renderer.Say(L("Drawing default")));
-    }
-    lines.CurrentLineWidth =
-        static_cast<float>(static_cast<double>(element.number) / 256 * static_cast<double>(lines.NormalLineWidth));
-    std::string& out = renderer.BeginLine(LabelOf(element));
-    AppendFormatted(out, lines.CurrentLineWidth, Picture::TwoToFour, renderer.style);
-    out += ' ';
-    out += renderer.Say(L("Inch"));
-    renderer.EndLine();
-}
-
-// The line stands where the last of the four comes in a graphics order. A triplet has them in another order, and the
-// line then shows what the parameters behind it were before.
-void RenderArcParameter(Renderer& renderer, const Element& element)
-{
-    auto& arc = renderer.record.arc;
-    for (const auto& [key, place] : kArcs)
-        if (key == element.key) arc[place] = element.number;
-    if (element.key != Key::MajorY) return;
-    std::string& out = renderer.text.Open();
-    out += renderer.IndentText;
-    for (std::size_t i = 0; i < std::size(kArcLetters); ++i) {
-        out += renderer.Say(kArcLetters[i]);
-        out += " = ";
-        AppendFormatted(out, arc[i], Picture::Grouped, renderer.style);
-        out += ", ";
-    }
-    out += renderer.Say(L("Direction"));
-    out += arc[0] * arc[1] - arc[2] * arc[3] > 0 ? ": CCW" : ": CW";
     renderer.EndLine();
 }
 

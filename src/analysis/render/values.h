@@ -17,9 +17,6 @@ void RenderColor(Renderer&, const Element&);
 void RenderLabelAlone(Renderer&, const Element&);
 void RenderOIDType(Renderer&, const Element&);
 void RenderHyperlink(Renderer&, const Element&);
-void RenderBoxEdge(Renderer&, const Element&);
 void RenderRadius(Renderer&, const Element&);
-void RenderLineWidth(Renderer&, const Element&);
-void RenderArcParameter(Renderer&, const Element&);
 
 }  // namespace folioscope

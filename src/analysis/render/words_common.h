@@ -72,15 +72,15 @@ constexpr LineRow kCommonLines[] = {
     {Key::ErrorNumber,      Line::Silent},
     {Key::ErrorDescription, Line::Silent},
 
-    // The value's half carries the same range, and renders it once its port is there.
+    // The value's half carries the same range, and is told by its own renderer.
     {Key::FontArrayType,     Line::Silent},
-    {Key::FontArrayValue,    Line::Silent},
+    Own(Key::FontArrayValue, RenderThrough<&RenderPorts::FontArray>),
     {Key::ArrayElementType,  Line::Silent},
-    {Key::ArrayElementValue, Line::Silent},
+    Own(Key::ArrayElementValue, RenderThrough<&RenderPorts::Sequences>),
     {Key::OrderElementType,  Line::Silent},
-    {Key::OrderElementValue, Line::Silent},
+    Own(Key::OrderElementValue, RenderThrough<&RenderPorts::Orders>),
     {Key::SDFElementType,    Line::Silent},
-    {Key::SDFElementValue,   Line::Silent},
+    Own(Key::SDFElementValue, RenderThrough<&RenderPorts::Fields>),
     {Key::CMRDataType,       Line::Silent},
     {Key::CMRDataValue,      Line::Silent},
 };

@@ -2,7 +2,6 @@
 
 // The lines of the keys that triplets bring, and of the maps and includes that hold them. Only lines.cpp includes this.
 
-#include "analysis/render/colors.h"
 #include "analysis/render/renderer.h"
 #include "analysis/render/triplets.h"
 #include "analysis/render/values.h"
@@ -16,7 +15,6 @@ constexpr Word kSizeType[]       = {{2, L("Object Area")}};
 constexpr Word kColorSubst[]     = {{1, L("Any color")}};
 constexpr Word kAxisDefault[]    = {{65535, L("Default")}};
 constexpr Word kInside[]         = {{0, L("Alternate")}, {1, L("Nonzero Winding")}};
-constexpr Word kHighlightColor[] = {{0, L("Default")}};
 constexpr Word kUsedCoordinates[] = {{0, L("any")}, {1, L("page")}};
 
 constexpr LineRow kTripletLines[] = {
@@ -139,41 +137,7 @@ constexpr LineRow kTripletLines[] = {
     {Key::DescriptorID,       Line::Plain, L("Graphics descriptor ID")},
     {Key::Boundary,           Line::Flag,  L("Draw boundaries")},
     {Key::Inside,             Line::Words, L("Fill mode"), kInside},
-    Own(Key::BoxEdgeHAxis,       RenderBoxEdge, L("Rounded corner ellipse length X axis")),
-    Own(Key::BoxEdgeVAxis,       RenderBoxEdge, L("Rounded corner ellipse length Y axis")),
     Own(Key::RadiusFullArc,      RenderRadius, L("Radius full arc")),
-    Own(Key::LineWidth,          RenderLineWidth, L("Line width")),
-    Own(Key::MajorX,             RenderArcParameter),
-    Own(Key::MajorY,             RenderArcParameter),
-    Own(Key::MinorX,             RenderArcParameter),
-    Own(Key::MinorY,             RenderArcParameter),
-
-    // Colours
-    Own(Key::RedBits,            KeepForSteps, L("No. of bits which represent the color Red")),
-    Own(Key::GreenBits,          KeepForSteps, L("No. of bits which represent the color Green")),
-    Own(Key::BlueBits,           KeepForSteps, L("No. of bits which represent the color Blue")),
-    Own(Key::CyanBits,           KeepForSteps, L("No. of bits which represent the color Cyan")),
-    Own(Key::MagentaBits,        KeepForSteps, L("No. of bits which represent the color Magenta")),
-    Own(Key::YellowBits,         KeepForSteps, L("No. of bits which represent the color Yellow")),
-    Own(Key::BlackBits,          KeepForSteps, L("No. of bits which represent the color Black")),
-    Own(Key::LumBits,            KeepForSteps, L("No. of bits which represent the Luminance L*")),
-    Own(Key::ChromABits,         KeepForSteps, L("No. of bits which represent the Chrominance a*")),
-    Own(Key::ChromBBits,         KeepForSteps, L("No. of bits which represent the Chrominance b*")),
-    Own(Key::Steps,              RenderSteps, L("Steps")),
-    Own(Key::IntensityRed,       KeepForShare, L("Intensity of color Red")),
-    Own(Key::IntensityGreen,     KeepForShare, L("Intensity of color Green")),
-    Own(Key::IntensityBlue,      KeepForShare, L("Intensity of color Blue")),
-    Own(Key::IntensityCyan,      KeepForShare, L("Intensity of color Cyan")),
-    Own(Key::IntensityMagenta,   KeepForShare, L("Intensity of color Magenta")),
-    Own(Key::IntensityYellow,    KeepForShare, L("Intensity of color Yellow")),
-    Own(Key::IntensityBlack,     KeepForShare, L("Intensity of color Black")),
-    Own(Key::Intensity,          RenderIntensity, L("Saturation")),
-    Own(Key::Shading,            RenderShading, L("Shading")),
-    {Key::HighlightColor,     Line::Words, L("Highlight color index"), kHighlightColor, Other::Count},
-    Own(Key::Luminance,          KeepForValue, L("Luminance L*")),
-    Own(Key::ChrominanceA,       KeepForValue, L("Chrominance a*")),
-    Own(Key::ChrominanceB,       KeepForValue, L("Chrominance b*")),
-    Own(Key::EqualsColorValue,   RenderEqualsColorValue, L("equals value in")),
 
     // Maps, includes, descriptors
     {Key::PassCSP,            Line::Flag,  L("Pass medium orientation to cut-sheet printers")},

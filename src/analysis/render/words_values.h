@@ -5,12 +5,11 @@
 
 #include "analysis/render/renderer.h"
 #include "analysis/render/values.h"
+#include "analysis/render/words_graphics.h"
 
 namespace folioscope {
 
 // clang-format off
-constexpr Word kBackgroundMix[] = {{5, L("Leave alone (transparent)")}, {-1, L("Default")}};
-constexpr Word kCHSID[] = {{0, L("Default")}, {65535, L("All")}};
 constexpr Word kCMRDevApp[] = {{0, L("Device default")}, {1, L("Monochrome")}};
 constexpr Word kCMRExReport[] = {{1, L("Yes")}, {2, L("No")}};
 constexpr Word kTerminateOrContinue[] = {{1, L("terminate")}, {2, L("Continue")}};
@@ -25,10 +24,6 @@ constexpr Word kCPISort[] = {{0, L("Ascending character ID")}, {1, L("Ascending 
 constexpr Word kCPType[] = {
     {10, "Single-Byte"}, {11, "Double-Byte"}, {254, "Single-Byte incl. Unicode scalar values"},
     {255, "Double-Byte incl. Unicode scalar values"},
-};
-constexpr Word kCharDirection[] = {
-    {0, L("Default")}, {1, L("Left to right")}, {2, L("Top to bottom")}, {3, L("Right to left")},
-    {4, L("Bottom to top")},
 };
 constexpr Word kCodeExtension[] = {{0, L("Not specified")}, {7, "UTF-8"}};
 constexpr Word kCollection[] = {
@@ -100,7 +95,6 @@ constexpr Word kFontWidthClass[] = {
     {0, L("Not specified")}, {1, "Ultra-condensed"}, {2, "Extra-condensed"}, {3, "Condensed"}, {4, "Semi-condensed"},
     {5, "Medium (normal)"}, {6, "Semi-expanded"}, {7, "Expanded"}, {8, "Extra-expanded"}, {9, "Ultra-expanded"},
 };
-constexpr Word kForegroundMix[] = {{2, L("Overpaint (opaque)")}, {-1, L("Default")}};
 constexpr Word kFrequency[] = {{1, L("Low")}, {-1, L("High")}};
 constexpr Word kRenderingIntent[] = {
     {0, L("perceptual")}, {1, L("media-relative colorimetric")}, {2, L("saturation")},
@@ -117,27 +111,14 @@ constexpr Word kISType[] = {
 };
 constexpr Word kKeepGroup[] = {{1, L("Yes")}};
 constexpr Word kLDFormat[] = {{0, "LND"}, {1, "RCD"}, {2, "XML"}};
-constexpr Word kLineEnd[] = {{0, L("Default")}, {1, L("Flat")}, {2, L("Square")}, {3, L("Round")}};
-constexpr Word kLineJoin[] = {{0, L("Default")}, {1, L("Bevel")}, {2, L("Round")}, {3, L("Miter")}};
-constexpr Word kLineType[] = {
-    {0, L("Default")}, {1, L("Dotted line")}, {2, L("Short dashed line")}, {3, L("Dash-dot line")},
-    {4, L("Double dotted line")}, {5, L("Long dashed line")}, {6, L("Dash double-dot line")}, {7, L("Solid line")},
-    {8, L("Invisible line")},
-};
 constexpr Word kLinkType[] = {{1, L("Navigation")}, {2, L("Annotation")}, {3, L("Appendix")}};
 constexpr Word kCodeForm[] = {{0, L("Not used")}, {2, L("2-Char code")}, {3, L("3-Char code")}};
-constexpr Word kDefaultOrNumber[] = {{0, L("Default")}};
 constexpr Word kMappingOption[] = {
     {0, L("Upper left corner, no trim")}, {16, L("Upper left corner, trim to fit")},
     {32, L("Centered, scale symmetrically to fit target")}, {48, L("Centered, trim to fit")},
     {65, "1:1 (1 Point = 1 Pel)"}, {66, "1:2 (1 Point = 2 Pel)"},
     {80, L("Upper left corner, replicate object to fill target")},
     {96, L("Centered, scale asymmetrically to fill target")}, {112, L("UP3i Print Data mapping")},
-};
-constexpr Word kMarkerSymbol[] = {
-    {0, L("Default")}, {1, L("Cross")}, {2, L("Plus sign")}, {3, L("Empty diamond")}, {4, L("Empty square")},
-    {5, L("6-point star")}, {6, L("8-point star")}, {7, L("Filled diamond")}, {8, L("Filled square")},
-    {9, L("Filled Circle")}, {10, L("Empty circle")}, {64, L("Blank")},
 };
 constexpr Word kMediumOrientation[] = {
     {0, L("Portrait")}, {1, L("Landscape")}, {2, L("Reverse Portrait")}, {3, L("Reverse Landscape")},
@@ -173,22 +154,11 @@ constexpr Word kParmType[] = {
     {0, L("Undefined data")}, {1, L("unsigned binary number")}, {2, L("signed binary number")}, {3, L("BIT string")},
     {4, L("Constant data")}, {5, L("Character string")}, {6, L("Name")},
 };
-constexpr Word kPatternSymbol[] = {
-    {0, L("Default")}, {1, L("Dotted pattern")}, {2, L("Dotted pattern")}, {3, L("Dotted pattern")},
-    {4, L("Dotted pattern")}, {5, L("Dotted pattern")}, {6, L("Dotted pattern")}, {7, L("Dotted pattern")},
-    {8, L("Dotted pattern")}, {9, L("Vertical lines")}, {10, L("Horizontal lines")},
-    {11, L("Diagonal lines (bottom-left to top-right)")}, {12, L("Diagonal lines (bottom-left to top-right)")},
-    {13, L("Diagonal lines (top-left to bottom-right)")}, {14, L("Diagonal lines (top-left to bottom-right)")},
-    {15, L("No fill")}, {16, L("Solid fill")}, {64, L("Blank")},
-};
 constexpr Word kPatternTech[] = {
     {1, "Laser Matrix n-bit wide (Vertical sections)"}, {5, "Laser Matrix n-bit wide (Raster)"},
     {30, "Composite Adobe Type 0 (Outline)"}, {31, "Type 1 Font Printer File Binary (PFB, Outline)"},
 };
 constexpr Word kPictureDimension[] = {{0, L("Not absolute (not defined)")}, {1, L("Absolute (defined)")}};
-constexpr Word kPrecision[] = {
-    {0, L("Default")}, {1, L("Inaccurate (String)")}, {2, L("Accurate (Character)")}, {3, L("Very accurate")},
-};
 constexpr Word kPrimitiveParms[] = {{1, L("All")}, {2, "Start"}, {3, L("Stop")}};
 constexpr Word kPrimitiveType[] = {
     {1, L("Horizontal line")}, {2, L("Vertical line")}, {3, L("Diagonal line")}, {4, L("Full Arc")}, {5, L("Box")},
@@ -238,8 +208,6 @@ constexpr Word kType[] = {
 constexpr Word kUsePMC[] = {{255, L("All")}};
 
 constexpr LineRow kValueLines[] = {
-    {Key::BackgroundMix,      Line::Words, L("Mixing of background colors"), kBackgroundMix, Other::Last},
-    {Key::CHSID,              Line::Words, L("Graphic character set ID"), kCHSID, Other::Number},
     {Key::CMRDevApp,          Line::Words, L("Device appearance"), kCMRDevApp, Other::Unknown},
     {Key::CMRExReport,        Line::Words, L("Report CMR tag Exceptions"), kCMRExReport, Other::Unknown},
     {Key::CMRException,       Line::Words, L("CMR tag Exception continuation rule"), kTerminateOrContinue, Other::Unknown},
@@ -247,7 +215,6 @@ constexpr LineRow kValueLines[] = {
     {Key::CMRScope,           Line::Words, L("Scope of the CMR"), kCMRScope, Other::Unknown},
     {Key::CPISort,            Line::Words, L("Sort order of the following CPI elements"), kCPISort, Other::Last},
     {Key::CPType,             Line::Words, L("Code page type"), kCPType, Other::Nothing},
-    {Key::CharDirection,      Line::Words, L("Character direction"), kCharDirection, Other::Unknown},
     {Key::CodeExtension,      Line::Words, L("Code Extension"), kCodeExtension, Other::Unknown},
     {Key::Collection,         Line::Words, L("Collection"), kCollection, Other::Unknown},
     {Key::ColorCont,          Line::Words, L("Color exception rule"), kStopOrContinue, Other::Last},
@@ -278,7 +245,6 @@ constexpr LineRow kValueLines[] = {
     {Key::FontNotAvailable,   Line::Words, L("If font is not available"), kStopOrContinue, Other::Last},
     {Key::FontWeightClass,    Line::Words, L("Font Weight Class"), kFontWeightClass, Other::Unknown},
     {Key::FontWidthClass,     Line::Words, L("Font Width Class"), kFontWidthClass, Other::Unknown},
-    {Key::ForegroundMix,      Line::Words, L("Mixing of foreground colors"), kForegroundMix, Other::Last},
     {Key::Frequency,          Line::Words, L("Frequency"), kFrequency, Other::Last},
     {Key::GOCARI,             Line::Words, L("... for GOCA objects"), kRenderingIntent, Other::Unknown},
     {Key::GroupType,          Line::Words, L("Group Type"), kGroupType, Other::Unknown},
@@ -296,16 +262,11 @@ constexpr LineRow kValueLines[] = {
     {Key::LNDFlagsSkip,       Line::Flag,  L("New page at unexpected skipping channel code")},
     {Key::LNDFlagsSpace,      Line::Flag,  L("New page at unexpected spacing channel code")},
     {Key::LNDFlagsSupp,       Line::Flag,  L("Suppress data")},
-    {Key::LineEnd,            Line::Words, L("Line end type"), kLineEnd, Other::Unknown},
-    {Key::LineJoin,           Line::Words, L("Line join type"), kLineJoin, Other::Unknown},
-    {Key::LineType,           Line::Words, L("Line type"), kLineType, Other::Unknown},
     {Key::LinkType,           Line::Words, L("Link Type"), kLinkType, Other::Unknown},
     {Key::LocLangFlag,        Line::Words, L("ISO-639 Language code flag"), kCodeForm, Other::Unknown},
     {Key::LocRegionFlag,      Line::Words, L("ISO-3166 Region code flag"), kCodeForm, Other::Unknown},
     {Key::MMAction,           Line::Words, L("Medium Map Action"), kMapAction, Other::Unknown},
-    {Key::MSID,               Line::Words, L("Bullet character set"), kDefaultOrNumber, Other::Number},
     {Key::MappingOption,      Line::Words, L("Position in target object"), kMappingOption, Other::Unknown},
-    {Key::MarkerSymbol,       Line::Words, L("Bullet"), kMarkerSymbol, Other::Unknown},
     {Key::MediaException,     Line::Words, L("Media exception process"), kTerminateOrContinue, Other::Unknown},
     {Key::MediumOrientation,  Line::Words, L("Medium orientation"), kMediumOrientation, Other::Unknown},
     {Key::MixFonF,            Line::Words, L("Foreground (new) on Foreground (existing)"), kMixing, Other::Unknown},
@@ -329,10 +290,8 @@ constexpr LineRow kValueLines[] = {
     {Key::PPOPreprocess,      Line::Flag,  L("All pages instead of only one page")},
     {Key::ParmType,           Line::Words, L("Parameter type"), kParmType, Other::Unknown},
     {Key::PatternSID,         Line::Words, L("Pattern set"), kDefaultOrNumber, Other::Number},
-    {Key::PatternSymbol,      Line::Words, L("Pattern symbol"), kPatternSymbol, Other::Unknown},
     {Key::PatternTech,        Line::Words, L("Font pattern technology"), kPatternTech, Other::Unknown},
     {Key::PictureDimension,   Line::Words, L("Picture dimension"), kPictureDimension, Other::Last},
-    {Key::Precision,          Line::Words, L("Precision"), kPrecision, Other::Unknown},
     {Key::PrimitiveParms,     Line::Words, L("Triplet specifies parameter"), kPrimitiveParms, Other::Unknown},
     {Key::PrimitiveType,      Line::Words, L("Graphics type"), kPrimitiveType, Other::Unknown},
     {Key::RCDDelSize,         Line::Words, L("Field delimiter size"), kRCDDelSize, Other::Last},
@@ -382,8 +341,6 @@ constexpr LineRow kValueLines[] = {
     Own(Key::NewRelBaselinePos, RenderMovement, L("Movement of writing position Y axis")),
     Own(Key::IAxis,             RenderDegrees, L("Rotation of the cursor to the document")),
     Own(Key::BAxis,             RenderDegrees, L("Rotation of the baseline to the document")),
-    Own(Key::CharRotation,      RenderDegrees, L("Character Rotation")),
-    Own(Key::Color,             RenderColor, L("Color")),
     {Key::TimeStamp,          Line::Quoted, L("Time stamp")},
 };
 // clang-format on
