@@ -3,6 +3,7 @@
 #include "analysis/render/words_colors.h"
 #include "analysis/render/words_common.h"
 #include "analysis/render/words_graphics.h"
+#include "analysis/render/words_metadata.h"
 #include "analysis/render/words_objects.h"
 #include "analysis/render/words_triplets.h"
 #include "analysis/render/words_values.h"
@@ -12,7 +13,7 @@ namespace folioscope {
 namespace {
 
 constexpr LineIndex kLineOf =
-    IndexOf(kCommonLines, kValueLines, kTripletLines, kColorLines, kGraphicsLines, kObjectLines);
+    IndexOf(kCommonLines, kValueLines, kTripletLines, kColorLines, kGraphicsLines, kObjectLines, kMetadataLines);
 
 struct ColorRow {
     std::int32_t first, last;
