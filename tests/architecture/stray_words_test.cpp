@@ -25,9 +25,14 @@ constexpr std::string_view kFixed[] = {
     "True", "False",   // how a Boolean without words is shown
     "Invalid ",        // head of the message on a rotation
     ": CCW", ": CW",   // directions of an arc
+    " private tag",    // of an ICC profile, behind its maker
 };
 // Tables of technical names, which the trade says in English everywhere.
-constexpr std::string_view kNameTables[] = {"src/analysis/render/barcode.cpp", "src/analysis/render/words_values.h"};
+constexpr std::string_view kNameTables[] = {
+    "src/analysis/render/barcode.cpp", "src/analysis/render/words_values.h",
+    "src/colour/cmr_tables.h", "src/colour/cmr_words.h", "src/colour/icc_tables.h", "src/colour/icc_words.h",
+    "src/colour/icc_decode.cpp",  // signatures
+};
 // clang-format on
 
 template <std::size_t N> bool IsOneOf(std::string_view text, const std::string_view (&list)[N])
