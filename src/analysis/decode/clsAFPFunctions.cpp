@@ -331,6 +331,18 @@ Element clsAFPFunctions::ReadText(Key key, std::int64_t position, std::int64_t l
     return ReadTextCP(key, CurrentCodePage(), position, length);
 }
 
+Element clsAFPFunctions::ReadCharacter(Key key, std::int64_t position)
+{
+    std::string& pool = list_.Pool();
+    const auto from = pool.size();
+    if (const ByteTexts* texts = conversions_.TextsOf(CurrentCodePage(), Pages.lngOutputCP)) {
+        const ByteText& text = (*texts)[ByteAt(position)];
+        pool += '\0';
+        pool.append(text.utf8, text.size);
+    }
+    return list_.PooledText(key, from);
+}
+
 Element clsAFPFunctions::ObjReadTextCP(Key key, std::int32_t lngCodepage, std::int64_t position, std::int64_t length)
 {
     const auto from = list_.Pool().size();

@@ -116,6 +116,8 @@ public:
     // and read as the one character U+0000 or U+00FF, whatever the length.
     Element ReadTextCP(Key key, std::int32_t lngCodepage, std::int64_t position, std::int64_t length);
     Element ReadText(Key key, std::int64_t position, std::int64_t length);
+    // One byte of the current code page as text behind U+0000; empty if it can't be converted.
+    Element ReadCharacter(Key key, std::int64_t position);
     // "0F A1": at most 2,048 bytes, then three dots.
     Element ReadHex(Key key, std::int64_t position, std::int64_t length);
     std::vector<std::uint8_t> CopyRecordBytes(std::int64_t position, std::int64_t length) const;

@@ -48,7 +48,7 @@ Element KeptElements::Of(Key key) const
 void RecordState::Reset()
 {
     bits = intensity = colorValue = {};
-    barCodeType = x = y = 0;
+    barCodeType = baselineOffset = x = y = 0;
     arc = {};
     kept.Clear();
 }
@@ -94,6 +94,7 @@ void Renderer::RenderItems(std::span<const Element> items, const LineIndex& line
 void Renderer::RenderElement(const LineRow* row, const Element& element)
 {
     if (row == nullptr || row->line == Line::Silent) return;
+    row_ = row;
     if (row->line == Line::Custom) return row->custom(*this, element);
     if (row->line == Line::Keep) return record.kept.Keep(element);
     if (row->line == Line::Words) return RenderWords(*row, element);
