@@ -54,7 +54,7 @@ constexpr std::array<std::uint8_t, 256> IndexByCode(const Row (&rows)[count], Co
 }
 
 // To the sequence in hand.
-inline constexpr AddToList kToSequence = &clsAFPFunctions::AddSequenceElement;
+inline constexpr AddTo kToSequence = AddTo::Sequence;
 
 // Starts the sequence of a field, and passes what the last item of the field before it left in this one.
 void BeginItems(clsAFPFunctions& afp);

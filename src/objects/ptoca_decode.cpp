@@ -190,6 +190,7 @@ constexpr auto kSequenceOf = IndexByCode(kSequences, [](const SequenceRow& row) 
 
 void AnalyzeOneSequence(clsAFPFunctions& afp, const Item& item)
 {
+    if (afp.List().SequenceIsFull()) return;  // nothing more could be told
     const std::uint8_t function = afp.ByteAt(item.at + 1);
     const std::uint8_t row = kSequenceOf[function & ~kChainingBit & 0xFF];
     if (row == 0) {

@@ -8,6 +8,7 @@
 
 #include "analysis/decode/byte_view.h"
 #include "analysis/decode/code_page_stack.h"
+#include "analysis/decode/rows.h"
 #include "analysis/decode/triplets.h"
 #include "analysis/elements/element_list.h"
 #include "codepages/clsCPConversions.h"
@@ -111,6 +112,13 @@ public:
 
     void AddElement(const Element& element) { list_.AddElement(element); }
     void AddSequenceElement(const Element& element) { list_.AddSequenceElement(element); }
+    void Add(AddTo to, const Element& element)
+    {
+        if (to == AddTo::Record)
+            list_.AddElement(element);
+        else
+            list_.AddSequenceElement(element);
+    }
 
     // Text in a code page, for `key`. Two bytes x'0000' or x'FFFF' at the position stand for a text that isn't given
     // and read as the one character U+0000 or U+00FF, whatever the length.
