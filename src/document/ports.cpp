@@ -1,9 +1,22 @@
 #include "document/ports.h"
 
+#include "objects/fonts_decode.h"
+#include "objects/fonts_render.h"
+
 namespace folioscope {
 
-DecodePorts Decoders() { return {}; }
+DecodePorts Decoders()
+{
+    DecodePorts ports;
+    ports.FontGroups = DecodeFontGroups;
+    return ports;
+}
 
-RenderPorts Renderers() { return {}; }
+RenderPorts Renderers()
+{
+    RenderPorts ports;
+    ports.FontArray = RenderFontArray;
+    return ports;
+}
 
 }  // namespace folioscope

@@ -27,7 +27,8 @@ constexpr std::string_view kFixed[] = {
     ": CCW", ": CW",   // directions of an arc
 };
 // Tables of technical names, which the trade says in English everywhere.
-constexpr std::string_view kNameTables[] = {"src/analysis/render/barcode.cpp", "src/analysis/render/words_values.h"};
+constexpr std::string_view kNameTables[] = {"src/analysis/render/barcode.cpp", "src/analysis/render/modifications.cpp",
+                                            "src/analysis/render/words_values.h"};
 // clang-format on
 
 template <std::size_t N> bool IsOneOf(std::string_view text, const std::string_view (&list)[N])
