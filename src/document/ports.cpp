@@ -1,5 +1,7 @@
 #include "document/ports.h"
 
+#include "objects/fonts_decode.h"
+#include "objects/fonts_render.h"
 #include "objects/goca_decode.h"
 #include "objects/goca_render.h"
 #include "objects/ioca_decode.h"
@@ -9,8 +11,20 @@
 
 namespace folioscope {
 
-DecodePorts Decoders() { return {.Sequences = AnalyzeSequences, .Orders = AnalyzeOrders, .Fields = AnalyzeFields}; }
+DecodePorts Decoders()
+{
+    return {.Sequences = AnalyzeSequences,
+            .Orders = AnalyzeOrders,
+            .Fields = AnalyzeFields,
+            .FontGroups = DecodeFontGroups};
+}
 
-RenderPorts Renderers() { return {.Sequences = RenderSequences, .Orders = RenderOrders, .Fields = RenderFields}; }
+RenderPorts Renderers()
+{
+    return {.Sequences = RenderSequences,
+            .Orders = RenderOrders,
+            .Fields = RenderFields,
+            .FontArray = RenderFontArray};
+}
 
 }  // namespace folioscope

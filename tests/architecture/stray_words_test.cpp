@@ -33,7 +33,7 @@ constexpr std::string_view kFixed[] = {
 };
 // Tables of technical names, which the trade says in English everywhere.
 constexpr std::string_view kNameTables[] = {
-    "src/analysis/render/barcode.cpp", "src/analysis/render/words_values.h",
+    "src/analysis/render/barcode.cpp", "src/analysis/render/modifications.cpp", "src/analysis/render/words_values.h",
     "src/objects/goca_decode.cpp", "src/objects/ioca_decode.cpp", "src/objects/ptoca_decode.cpp",  // names of items
     "src/objects/ioca_render.cpp",                                 // compression algorithms, colour spaces
 };

@@ -79,6 +79,7 @@ void clsAFPFunctions::InitializeProcessing2(std::string strAFPFile, const InputP
     reader_.SetFile(std::move(strAFPFile));
     Pages = pages;
     CodePages.Reset(pages.lngInputCP);
+    Fonts = {};
     textPages_.clear();
     lastTextPage_ = nullptr;
 }

@@ -8,6 +8,7 @@
 
 #include "analysis/decode/byte_view.h"
 #include "analysis/decode/code_page_stack.h"
+#include "analysis/decode/fields_fonts.h"
 #include "analysis/decode/rows.h"
 #include "analysis/decode/triplets.h"
 #include "analysis/elements/element_list.h"
@@ -152,6 +153,7 @@ public:
     std::vector<std::uint8_t> ObjectBuffer;  // object container data, gathered over many records
     ResourceState Resources;
     TripletState Triplets;
+    FontState Fonts;
     InputPages Pages;
     CodePageStack CodePages;
     std::int32_t CurrentCodePage() const { return CodePages.Current(); }

@@ -2,6 +2,8 @@
 
 #include "analysis/render/words_colors.h"
 #include "analysis/render/words_common.h"
+#include "analysis/render/words_fonts.h"
+#include "analysis/render/words_forms.h"
 #include "analysis/render/words_graphics.h"
 #include "analysis/render/words_objects.h"
 #include "analysis/render/words_triplets.h"
@@ -11,8 +13,8 @@ namespace folioscope {
 
 namespace {
 
-constexpr LineIndex kLineOf =
-    IndexOf(kCommonLines, kValueLines, kTripletLines, kColorLines, kGraphicsLines, kObjectLines);
+constexpr LineIndex kLineOf = IndexOf(kCommonLines, kValueLines, kTripletLines, kColorLines, kGraphicsLines,
+                                      kObjectLines, kFormLines, kFontLines);
 
 struct ColorRow {
     std::int32_t first, last;
