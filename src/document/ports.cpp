@@ -1,5 +1,8 @@
 #include "document/ports.h"
 
+#include "colour/cmr_decode.h"
+#include "colour/cmr_render.h"
+#include "colour/metadata_decode.h"
 #include "objects/fonts_decode.h"
 #include "objects/fonts_render.h"
 #include "objects/goca_decode.h"
@@ -16,7 +19,9 @@ DecodePorts Decoders()
     return {.Sequences = AnalyzeSequences,
             .Orders = AnalyzeOrders,
             .Fields = AnalyzeFields,
-            .FontGroups = DecodeFontGroups};
+            .FontGroups = DecodeFontGroups,
+            .ColourResource = DecodeColorResource,
+            .Metadata = DecodeMetadata};
 }
 
 RenderPorts Renderers()
@@ -24,7 +29,8 @@ RenderPorts Renderers()
     return {.Sequences = RenderSequences,
             .Orders = RenderOrders,
             .Fields = RenderFields,
-            .FontArray = RenderFontArray};
+            .FontArray = RenderFontArray,
+            .ColourResource = RenderColorResource};
 }
 
 }  // namespace folioscope

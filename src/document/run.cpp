@@ -184,6 +184,7 @@ MemoState Document::StateNow() const
 void Document::AnalyzeAndRender()
 {
     renderer_->text.Clear();
+    renderer_->deferredText.Clear();
     renderer_->IndentText.clear();
     const Status status = clsAFP_.AnalyzeRecord();
     if ((status & kRecord) < kRecord || !tree_->AddNodes(status, clsAFP_.Field())) return;
@@ -192,6 +193,7 @@ void Document::AnalyzeAndRender()
     if (renderer_->text.Position() >= 2)
         tree_->StoreNodeRecord(renderer_->text.Text(), clsAFP_.Field() != kFieldCount, renderer_->SFStart,
                                renderer_->SFLength);
+    if (!renderer_->deferredText.Text().empty()) tree_->AppendDeferred(renderer_->deferredText.Text());
     tree_->CloseFolder(status);
 }
 

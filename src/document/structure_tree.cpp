@@ -183,6 +183,21 @@ void StructureTree::StoreRepeated(const NodeRecord& like, std::int32_t lngStart)
     node.lngStart = lngStart;
 }
 
+// Texts are shared by all nodes that show the same, so the longer one is a text of its own.
+void StructureTree::AppendDeferred(std::string_view text)
+{
+    text = TrimBlanks(text);
+    const std::uint32_t first = nodParent_ + 1;
+    if (text.empty() || first >= nodes_.Size()) return;
+    const std::uint32_t second = nodes_.End(first);
+    if (second >= nodes_.Size()) return;
+    line_.clear();
+    AppendBody(line_, second);
+    line_ += text;
+    nodes_[second].nameLine = false;
+    nodes_[second].content = texts_.Keep(line_);
+}
+
 void StructureTree::CloseFolder(Status status)
 {
     if (status != kEnd || nodParent_ == NodeStore::kRoot) return;

@@ -40,6 +40,8 @@ public:
     void StoreNodeRecord(std::string_view body, bool head, std::int32_t lngStart, std::int32_t lngLength);
     // The current leaf came to the same as another one before it.
     void StoreRepeated(const NodeRecord& like, std::int32_t lngStart);
+    // A text that a record left for the second node of its folder, of whatever kind that is.
+    void AppendDeferred(std::string_view text);
     // Behind an End: the folder that it closes is the current node, and its parent the folder for what follows.
     void CloseFolder(Status status);
     // The records that are rendered now belong to this node; `heard`: their faults are new.

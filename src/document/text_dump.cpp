@@ -192,7 +192,7 @@ private:
 
     void PutWholeText(std::uint32_t node)
     {
-        if (const NodeRecord& leaf = record(node); !leaf.red && leaf.caption == kNoText) {
+        if (const NodeRecord& leaf = record(node); !leaf.folder && !leaf.red && leaf.caption == kNoText) {
             Put(tree_.ShortName(node));
             buffer_ += lineEnd_;
             return;
@@ -206,7 +206,8 @@ private:
     // The node's text in front of its first colon, which in the text of most leaves is the short name.
     void PutNodeName(std::uint32_t node)
     {
-        if (!record(node).ownCaption && !record(node).red) return Put(tree_.ShortName(node));
+        const NodeRecord& leaf = record(node);
+        if (!leaf.folder && !leaf.ownCaption && !leaf.red) return Put(tree_.ShortName(node));
         name_.clear();
         tree_.AppendNodeText(name_, node);
         const auto colon = name_.find(':');

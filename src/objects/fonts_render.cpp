@@ -56,7 +56,6 @@ constexpr LineRow kFontArrayLines[] = {
 
 constexpr LineIndex kLineOf = IndexOf(kFontArrayLines);
 
-Wording LabelOf(const Element& element) { return kLineOf[static_cast<std::size_t>(element.key)]->label; }
 
 }  // namespace
 

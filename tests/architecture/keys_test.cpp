@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "analysis/render/lines.h"
+#include "colour/colour_lines.h"
 #include "objects/goca_render.h"
 #include "objects/ioca_render.h"
 #include "objects/ptoca_render.h"
@@ -42,7 +43,7 @@ const LineRow* LineAnywhere(Key key)
     const auto at = static_cast<std::size_t>(key);
     for (const LineRow* row : {LineOf(key), SequenceLines()[at], OrderLines()[at], FieldLines()[at]})
         if (row != nullptr) return row;
-    return nullptr;
+    return ColourLineOf(key);
 }
 
 TEST(Keys, EachHasALineOrIsSilent) { EXPECT_EQ(KeysWithoutALine(kKeys, LineAnywhere), Faults{}); }

@@ -229,6 +229,8 @@ void clsAFPFunctions::DecodeThrough(Port port)
     case Port::Orders: decoder = ports_.Orders; break;
     case Port::Fields: decoder = ports_.Fields; break;
     case Port::FontGroups: decoder = ports_.FontGroups; break;
+    case Port::ColourResource: decoder = ports_.ColourResource; break;
+    case Port::Metadata: decoder = ports_.Metadata; break;
     }
     if (decoder != nullptr) decoder(*this);
 }
@@ -385,6 +387,19 @@ std::vector<std::uint8_t> clsAFPFunctions::CopyRecordBytes(std::int64_t position
     std::vector<std::uint8_t> bytes(static_cast<std::size_t>(std::max<std::int64_t>(length, 0)));
     for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = ByteAt(position + static_cast<std::int64_t>(i));
     return bytes;
+}
+
+// In one piece, since an object can have thousands of fields. What lies behind the buffer is 0 here too.
+void clsAFPFunctions::GatherObject(std::int64_t position, std::int64_t length)
+{
+    if (length <= 0) return;
+    Reach(position + length - 1);
+    const auto buffer = reader_.RecordBuffer();
+    const auto from = std::min(static_cast<std::size_t>(std::max<std::int64_t>(position - 1, 0)), buffer.size());
+    const auto bytes = buffer.subspan(from, std::min(static_cast<std::size_t>(length), buffer.size() - from));
+    const std::size_t whole = ObjectBuffer.size() + static_cast<std::size_t>(length);
+    ObjectBuffer.insert(ObjectBuffer.end(), bytes.begin(), bytes.end());
+    ObjectBuffer.resize(whole);
 }
 
 std::vector<std::uint8_t> clsAFPFunctions::CopyObjectBytes(std::int64_t position, std::int64_t length) const

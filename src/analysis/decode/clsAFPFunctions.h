@@ -21,14 +21,16 @@ class clsAFPFunctions;
 struct FieldBody;
 enum class Port : std::uint8_t;
 
-// Decoders that lie above this floor: each reads from FieldPosition to FieldEnd. Data whose decoder is missing add no
-// Elements.
+// Decoders that lie above this floor: each reads from FieldPosition to FieldEnd, those of objects all of ObjectBuffer.
+// Data whose decoder is missing add no Elements.
 using PortDecoder = void (*)(clsAFPFunctions&);
 struct DecodePorts {
-    PortDecoder Sequences = nullptr;   // PTX, the tail of PTD-2
-    PortDecoder Orders = nullptr;      // GAD
-    PortDecoder Fields = nullptr;      // IPD, the tail of IDD
-    PortDecoder FontGroups = nullptr;  // FNI, FNM
+    PortDecoder Sequences = nullptr;       // PTX, the tail of PTD-2
+    PortDecoder Orders = nullptr;          // GAD
+    PortDecoder Fields = nullptr;          // IPD, the tail of IDD
+    PortDecoder FontGroups = nullptr;      // FNI, FNM
+    PortDecoder ColourResource = nullptr;  // EOC, a colour management resource
+    PortDecoder Metadata = nullptr;        // EOC, a metadata object
 };
 
 // The code pages that a run is told.
@@ -145,6 +147,10 @@ public:
     Element ObjReadText(Key key, std::int64_t position, std::int64_t length);
     Element ObjReadHex(Key key, std::int64_t position, std::int64_t length);
     std::vector<std::uint8_t> CopyObjectBytes(std::int64_t position, std::int64_t length) const;
+    // Appends bytes of the record to ObjectBuffer.
+    void GatherObject(std::int64_t position, std::int64_t length);
+    // Has the data decoded by whoever is there for them.
+    void DecodeThrough(Port port);
 
     // How many bytes of the last item of a text, graphics or image field lay behind its end, 0 to 65,535: the next walk
     // of any of them passes so many.
@@ -177,7 +183,6 @@ private:
     void AddFailure();
     void TakePadding();
     void DecodeBody(const FieldBody& body);
-    void DecodeThrough(Port port);
     void AddUnknown();
     void AppendText(const ByteView& bytes, std::int32_t lngCodepage, std::int64_t position, std::int64_t length);
     const ByteTexts* TextsOf(std::int32_t lngCodepage);

@@ -84,7 +84,7 @@ constexpr FieldRow kFields[] = {
     {0xA9'87, "ECP",     "ECP (End Code Page, x'D3 A9 87')", By(DecodeNameOnly)},
     {0xA9'89, "EFN",     "EFN (End Font, x'D3 A9 89')", By(DecodeNameOnly)},
     {0xA9'8A, "ECF",     "ECF (End Coded Font, x'D3 A9 8A')", By(DecodeNameOnly)},
-    {0xA9'92, "EOC",     "EOC (End Object Container, x'D3 A9 92')", By(DecodeNamed)},
+    {0xA9'92, "EOC",     "EOC (End Object Container, x'D3 A9 92')", By(DecodeEOC)},
     {0xA9'9B, "EPT",     "EPT (End Presentation Text Object, x'D3 A9 9B')", By(DecodeNamed)},
     {0xA9'A5, "EPF",     "EPF (End Print File, x'D3 A9 A5')", By(DecodeNamed)},
     {0xA9'A7, "EDI",     "EDI (End Document Index, x'D3 A9 A7')", By(DecodeNamed)},

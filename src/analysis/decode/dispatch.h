@@ -11,8 +11,8 @@ namespace folioscope {
 
 class clsAFPFunctions;
 
-// Who reads data that belong to another architecture: text, graphics, images, fonts.
-enum class Port : std::uint8_t { None, Sequences, Orders, Fields, FontGroups };
+// Who reads data that belong to another architecture: text, graphics, images, fonts, objects in containers.
+enum class Port : std::uint8_t { None, Sequences, Orders, Fields, FontGroups, ColourResource, Metadata };
 
 // What follows behind the fixed part of a field. Unread: data that the run leaves for later.
 enum class Then : std::uint8_t { Nothing, Triplets, TripletGroups, Port, Unread };

@@ -1,8 +1,10 @@
 #include "analysis/decode/fields_begin_end.h"
 
 #include <string>
+#include <vector>
 
 #include "analysis/decode/clsAFPFunctions.h"
+#include "analysis/decode/dispatch.h"
 #include "analysis/decode/groups.h"
 #include "analysis/decode/resources.h"
 
@@ -128,6 +130,15 @@ void DecodeBOC(clsAFPFunctions& afp)
     afp.Triplets.colorManagement = afp.Triplets.metadata = false;
     DecodeBeginData(afp);
     if (afp.Triplets.colorManagement || afp.Triplets.metadata) afp.ObjectBuffer.clear();
+}
+
+// The object is whole: it is decoded and not kept any longer.
+void DecodeEOC(clsAFPFunctions& afp)
+{
+    DecodeNamed(afp);
+    if (afp.Triplets.colorManagement) afp.DecodeThrough(Port::ColourResource);
+    if (afp.Triplets.metadata) afp.DecodeThrough(Port::Metadata);
+    std::vector<std::uint8_t>().swap(afp.ObjectBuffer);
 }
 
 // No Operation: the content is text by custom, so it is shown as text and, in the hex pane, as bytes.

@@ -19,6 +19,7 @@ void DecodeBNG(clsAFPFunctions&);
 void DecodeBDM(clsAFPFunctions&);
 void DecodeBMM(clsAFPFunctions&);
 void DecodeBOC(clsAFPFunctions&);
+void DecodeEOC(clsAFPFunctions&);
 void DecodeNOP(clsAFPFunctions&);
 void DecodeTLE(clsAFPFunctions&);
 void DecodeLLE(clsAFPFunctions&);

@@ -55,7 +55,7 @@ void DecodeOCD(clsAFPFunctions& afp)
     const std::int32_t length = DataLength(afp);
     afp.AddElement(Element::Int32(Key::ObjectData, length));
     if (!afp.Triplets.colorManagement && !afp.Triplets.metadata) return AddDataAsHex(afp);
-    for (std::int32_t i = 0; i < length; ++i) afp.ObjectBuffer.push_back(afp.ByteAt(afp.FieldPosition + i));
+    afp.GatherObject(afp.FieldPosition, length);
 }
 
 void DecodeIRD(clsAFPFunctions& afp) { AddCountedData(afp, Key::ImageData); }

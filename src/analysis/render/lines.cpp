@@ -5,6 +5,7 @@
 #include "analysis/render/words_fonts.h"
 #include "analysis/render/words_forms.h"
 #include "analysis/render/words_graphics.h"
+#include "analysis/render/words_metadata.h"
 #include "analysis/render/words_objects.h"
 #include "analysis/render/words_triplets.h"
 #include "analysis/render/words_values.h"
@@ -14,7 +15,7 @@ namespace folioscope {
 namespace {
 
 constexpr LineIndex kLineOf = IndexOf(kCommonLines, kValueLines, kTripletLines, kColorLines, kGraphicsLines,
-                                      kObjectLines, kFormLines, kFontLines);
+                                      kObjectLines, kFormLines, kFontLines, kMetadataLines);
 
 struct ColorRow {
     std::int32_t first, last;

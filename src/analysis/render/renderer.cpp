@@ -86,8 +86,22 @@ void Renderer::RenderItems(std::span<const Element> items, const LineIndex& line
     outerIndent_.swap(IndentText);
     IndentText = ": ";
     origin_ = origin;
+    named_ = true;
     RenderLines(items, lineOf);
+    named_ = false;
     origin_ = {};
+    outerIndent_.swap(IndentText);
+}
+
+void Renderer::RenderDeferred(std::span<const Element> elements, const LineIndex& lineOf, std::string_view origin)
+{
+    outerIndent_.swap(IndentText);
+    IndentText.clear();
+    std::swap(text, deferredText);
+    origin_ = origin;
+    RenderLines(elements, lineOf);
+    origin_ = {};
+    std::swap(text, deferredText);
     outerIndent_.swap(IndentText);
 }
 
@@ -216,8 +230,13 @@ void Renderer::RedLine(Wording label, Label fault, std::string_view value)
 void Renderer::PutFault(Wording label, Label fault, std::string_view value)
 {
     RedLine(label, fault, value);
+    TellFault(label, fault, value);
+}
+
+void Renderer::TellFault(Wording label, Label fault, std::string_view value)
+{
     std::string message(origin_);
-    if (!origin_.empty()) message += IndentText;
+    if (named_) message += IndentText;
     message += Say(label);
     message += ": ";
     message += Say(fault);

@@ -66,10 +66,11 @@ struct Renderer;
 // Renderers of sequences, which lie above this floor. A sequence whose renderer is missing writes nothing.
 using SequenceRenderer = void (*)(Renderer&, std::span<const Element>);
 struct RenderPorts {
-    SequenceRenderer Sequences = nullptr;  // ArrayElementValue: presentation text
-    SequenceRenderer Orders = nullptr;     // OrderElementValue: graphics
-    SequenceRenderer Fields = nullptr;     // SDFElementValue: images
-    SequenceRenderer FontArray = nullptr;  // FontArrayValue
+    SequenceRenderer Sequences = nullptr;       // ArrayElementValue: presentation text
+    SequenceRenderer Orders = nullptr;          // OrderElementValue: graphics
+    SequenceRenderer Fields = nullptr;          // SDFElementValue: images
+    SequenceRenderer FontArray = nullptr;       // FontArrayValue
+    SequenceRenderer ColourResource = nullptr;  // CMRDataValue
 };
 
 // Turns the Elements of a record into its property text, and tells the tree what concerns it.
@@ -83,6 +84,8 @@ struct Renderer {
     // The same for the items of a data object: IndentText is the item's name and ": ", and the messages of unknown
     // values begin with `origin` and the name.
     void RenderItems(std::span<const Element> items, const LineIndex& lineOf, std::string_view origin);
+    // The same into the text that belongs to another node. The messages begin with `origin` alone.
+    void RenderDeferred(std::span<const Element> elements, const LineIndex& lineOf, std::string_view origin);
 
     // The three lines that head every record: name, start (SFStart counts from 1, the line from 0) and length in bytes.
     void AppendHeadLines(std::string& out, std::string_view SFName, std::int32_t SFStart, std::int32_t SFLength) const;
@@ -106,13 +109,16 @@ struct Renderer {
     void PutUnknown(Wording label, std::string_view value) { PutFault(label, L("Unknown"), value); }
     void PutInvalid(Wording label, std::string_view value) { PutFault(label, L("Invalid"), value); }
     void RedLine(Wording label, Label fault, std::string_view value);
+    // The message of a fault, and a red path to the root.
+    void TellFault(Wording label, Label fault, std::string_view value);
 
     Labels labels;
     const Settings& settings;
     NumberStyle style;
     NodeSink& sink;
     PropertyText text;
-    std::string IndentText;  // tabs in front of each line
+    PropertyText deferredText;  // for the node in front of the object's data; the caller clears it too
+    std::string IndentText;     // tabs in front of each line
     UnitState units;
     LineState lines;
     RenderPorts ports;
@@ -131,6 +137,7 @@ private:
 
     const LineRow* row_ = nullptr;  // of the line in hand
     std::string_view origin_;       // of the items in hand; empty outside of them
+    bool named_ = false;            // items whose name is IndentText
     std::string outerIndent_;
     std::size_t headWords_;  // characters of the head lines that are the same for all records
 };

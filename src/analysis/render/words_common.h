@@ -82,7 +82,7 @@ constexpr LineRow kCommonLines[] = {
     {Key::SDFElementType,    Line::Silent},
     Own(Key::SDFElementValue, RenderThrough<&RenderPorts::Fields>),
     {Key::CMRDataType,       Line::Silent},
-    {Key::CMRDataValue,      Line::Silent},
+    Own(Key::CMRDataValue,   RenderThrough<&RenderPorts::ColourResource>),
 };
 // clang-format on
 
