@@ -139,6 +139,9 @@ void AppendGeneral(std::string& out, const Decimal& decimal, int significant, co
 
 void AppendFormatted(std::string& out, std::int64_t value, Picture picture, const NumberStyle& style)
 {
+    // Most numbers are small, and stand as they are.
+    constexpr std::int64_t kThousand = 1000;
+    if (picture == Picture::Grouped && value >= 0 && value < kThousand) return AppendNumber(out, value);
     AppendDecimal(out, DecimalOf(value), picture, style);
 }
 

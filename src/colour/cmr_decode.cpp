@@ -241,7 +241,7 @@ void CmrWalk::AddColorantNames(const TagEntry& tag)
 void DecodeColorResource(clsAFPFunctions& afp)
 {
     afp.List().ClearSequenceElements();
-    ObjectWalk object(afp, &clsAFPFunctions::AddSequenceElement);
+    ObjectWalk object(afp, AddTo::Sequence);
     object.AddRows(kHeader, 0);
     CmrWalk(object).AddTags();
     afp.List().PublishSequence(Key::CMRDataType, Key::CMRDataValue);

@@ -22,7 +22,7 @@ void DecodeMetadata(clsAFPFunctions& afp)
 {
     constexpr std::int64_t kLengthSize = 4, kNameLengthAt = 48, kNameAt = 50;
     constexpr std::int32_t kLongestWithoutName = 46;
-    ObjectWalk object(afp, &clsAFPFunctions::AddElement);
+    ObjectWalk object(afp, AddTo::Record);
     object.AddRows(kLengths, 0);
     object.AddText(Key::MOType, kUtf16BEPage, 6, 6);
     object.AddCleaned(Key::MOFormat, kUtf16BEPage, 12, 8);

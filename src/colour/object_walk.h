@@ -35,7 +35,7 @@ inline constexpr std::int32_t kUtf16BEPage = 1200, kPage437 = 437;
 // Turns the bytes of ObjectBuffer into Elements. Positions count from 0; what lies outside of the object reads as 0.
 class ObjectWalk {
 public:
-    ObjectWalk(clsAFPFunctions& afp, AddToList add) : afp_(afp), add_(add) {}
+    ObjectWalk(clsAFPFunctions& afp, AddTo to) : afp_(afp), to_(to) {}
 
     std::int64_t Size() const { return static_cast<std::int64_t>(afp_.ObjectBuffer.size()); }
     std::uint8_t ByteAt(std::int64_t position) const { return afp_.Object().At(position); }
@@ -43,9 +43,9 @@ public:
     bool Bit(std::int64_t position, int bit) const { return afp_.ObjReadBit(position, bit); }
 
     // The sequence takes no more: whatever a count says, nothing that follows would be kept.
-    bool Full() const { return afp_.List().SequenceCount() >= ElementList::kLongestSequence; }
+    bool Full() const { return afp_.List().SequenceIsFull(); }
 
-    void Add(const Element& element) { (afp_.*add_)(element); }
+    void Add(const Element& element) { afp_.Add(to_, element); }
     void AddRows(std::span<const ObjectRow> rows, std::int64_t base);
     void AddText(Key key, std::string_view made);
     void AddText(Key key, std::int32_t lngCodepage, std::int64_t position, std::int64_t length);
@@ -63,7 +63,7 @@ private:
     std::int64_t BytesToRead(std::int64_t position, std::int64_t length);
 
     clsAFPFunctions& afp_;
-    AddToList add_;
+    AddTo to_;
     std::int64_t textLeft_ = kMostText;  // many entries can point to one long text
 };
 

@@ -99,6 +99,7 @@ private:
     void TellProgress();
     void FinishRun();
     FileFailure ReadBody(std::uint32_t node, std::string& body);
+    void AnalyzeBody(std::uint32_t node);
     void KeepBody(std::uint32_t node, const std::string& body);
 
     Settings settings_;
@@ -115,6 +116,9 @@ private:
     bool bolProcessing_ = false, bolOperationInterupted_ = false;
     std::int32_t lngNextProgress_ = 0, lngProcessedBytes_ = 0, lngSFCount_ = 0;
 
+    // What the record read before them left over of its last item: the body of such a record begins so much later, also
+    // when it is made again. Records that nothing was left for are not in it.
+    std::unordered_map<std::uint32_t, std::int32_t> carriedInto_;
     // Bodies of deferred records that were asked for lately. Older ones are made again from the file.
     std::unordered_map<std::uint32_t, std::string> bodies_;
     std::deque<std::uint32_t> bodyOrder_;

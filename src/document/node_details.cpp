@@ -31,13 +31,28 @@ bool Document::GetNodeContents_bolUnread(std::uint32_t lngNodeCode) const
     return tree_->Nodes()[lngNodeCode].bolUnread;
 }
 
+// A body that is made again begins where it began at first, and leaves what is carried over as it is.
+void Document::AnalyzeBody(std::uint32_t node)
+{
+    std::int32_t& carried = clsAFP_.CarryOverBytes;
+    if (tree_->Nodes()[node].bolUnread) {
+        if (carried != 0) carriedInto_.emplace(node, carried);
+        return clsAFP_.AnalyzeSpecificRecord();
+    }
+    const std::int32_t now = carried;
+    const auto found = carriedInto_.find(node);
+    carried = found != carriedInto_.end() ? found->second : 0;
+    clsAFP_.AnalyzeSpecificRecord();
+    carried = now;
+}
+
 // Reads the record again and makes its text, behind what the run kept of it. Its faults count the first time only.
 FileFailure Document::ReadBody(std::uint32_t node, std::string& body)
 {
     const NodeRecord& record = tree_->Nodes()[node];
     clsAFP_.List().ClearCollections();
     if (const auto failure = clsAFP_.SetNextRecord(record.lngStart)) return failure;
-    clsAFP_.AnalyzeSpecificRecord();
+    AnalyzeBody(node);
     tree_->Revisit(node, record.bolUnread);
     tree_->Nodes()[node].bolUnread = false;
 

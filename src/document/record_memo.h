@@ -16,6 +16,7 @@ struct MemoState {
     UnitState units;
     LineState lines;
     std::int32_t codePage = 0, codePageNOP = 0, codePageTLE = 0;
+    std::int32_t carryOver = 0;
     bool colorManagement = false, metadata = false;
 
     bool operator==(const MemoState&) const = default;

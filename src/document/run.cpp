@@ -176,6 +176,7 @@ MemoState Document::StateNow() const
             clsAFP_.CurrentCodePage(),
             clsAFP_.Pages.lngInputCPNOP,
             clsAFP_.Pages.lngInputCPTLE,
+            clsAFP_.CarryOverBytes,
             clsAFP_.Triplets.colorManagement,
             clsAFP_.Triplets.metadata};
 }

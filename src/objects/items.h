@@ -40,8 +40,21 @@ private:
 // What rows can't say of an item.
 using ItemProcedure = void (*)(clsAFPFunctions&, const Item&);
 
+// Code to row + 1 of a table; 0 for a code that no row has.
+template <class Row, std::size_t count, class Code>
+constexpr std::array<std::uint8_t, 256> IndexByCode(const Row (&rows)[count], Code codeOf)
+{
+    std::array<std::uint8_t, 256> index{};
+    for (std::size_t i = 0; i < count; ++i) {
+        auto& place = index[codeOf(rows[i])];
+        if (place != 0) throw "two rows for one code";
+        place = static_cast<std::uint8_t>(i + 1);
+    }
+    return index;
+}
+
 // To the sequence in hand.
-inline constexpr AddToList kToSequence = &clsAFPFunctions::AddSequenceElement;
+inline constexpr AddTo kToSequence = AddTo::Sequence;
 
 // Starts the sequence of a field, and passes what the last item of the field before it left in this one.
 void BeginItems(clsAFPFunctions& afp);

@@ -68,11 +68,14 @@ constexpr std::string_view kNoLines[] = {
 };
 // What a field says in place of a number.
 constexpr std::string_view kInPlaceOfANumber = "Default";
+constexpr std::string_view kFieldsThatSayIt[] = {"src/analysis/decode/fields_descriptors.cpp",
+                                                 "src/analysis/decode/fields_graphics.cpp"};
 
 bool IsExempt(std::string_view path, std::string_view literal)
 {
     return std::find(std::begin(kNoLines), std::end(kNoLines), path) != std::end(kNoLines) ||
-           (path == "src/analysis/decode/fields_descriptors.cpp" && literal == kInPlaceOfANumber);
+           (literal == kInPlaceOfANumber &&
+            std::find(std::begin(kFieldsThatSayIt), std::end(kFieldsThatSayIt), path) != std::end(kFieldsThatSayIt));
 }
 
 Faults WordFaults(const std::vector<SourceFile>& files)

@@ -9,6 +9,9 @@
 
 #include "analysis/render/lines.h"
 #include "colour/colour_lines.h"
+#include "objects/goca_render.h"
+#include "objects/ioca_render.h"
+#include "objects/ptoca_render.h"
 
 namespace folioscope {
 namespace {
@@ -34,15 +37,21 @@ template <class Lookup> Faults KeysWithoutALine(std::span<const NamedKey> keys, 
     return faults;
 }
 
-// The lines of data that have a renderer of their own stand with it.
-const LineRow* LineOfAnyRenderer(Key key) { return LineOf(key) != nullptr ? LineOf(key) : ColourLineOf(key); }
+// In a field, or in an item of a data object.
+const LineRow* LineAnywhere(Key key)
+{
+    const auto at = static_cast<std::size_t>(key);
+    for (const LineRow* row : {LineOf(key), SequenceLines()[at], OrderLines()[at], FieldLines()[at]})
+        if (row != nullptr) return row;
+    return ColourLineOf(key);
+}
 
-TEST(Keys, EachHasALineOrIsSilent) { EXPECT_EQ(KeysWithoutALine(kKeys, LineOfAnyRenderer), Faults{}); }
+TEST(Keys, EachHasALineOrIsSilent) { EXPECT_EQ(KeysWithoutALine(kKeys, LineAnywhere), Faults{}); }
 
 TEST(KeysCheck, FindsAKeyThatWasForgotten)
 {
     const auto forgetful = [](Key key) {
-        return key == Key::NOPContent || key == Key::OriginY ? nullptr : LineOf(key);
+        return key == Key::NOPContent || key == Key::OriginY ? nullptr : LineAnywhere(key);
     };
     EXPECT_EQ(KeysWithoutALine(kKeys, forgetful), (Faults{"NOPContent", "OriginY"}));
 }

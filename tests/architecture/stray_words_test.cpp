@@ -20,16 +20,23 @@ using test::Place;
 using test::ProgramFiles;
 
 // clang-format off
-constexpr std::string_view kUnits[] = {"cm", "mm", "pels", " Bytes", " DPI)", " ppi"};
+constexpr std::string_view kUnits[] = {"cm", "mm", "pels", " Bytes", " DPI)", " ppi", " Pixel", " Pixel , "};
 constexpr std::string_view kFixed[] = {
     "True", "False",   // how a Boolean without words is shown
     "Invalid ",        // head of the message on a rotation
     ": CCW", ": CW",   // directions of an arc
     " private tag",    // of an ICC profile, behind its maker
+    "Minimum",         // the width of a rule that has none
+    "Custom (",        // a pattern set of the document's own
+    "  (Offset X=",    // behind the point that it leads to
+    "Highlight Color", "Standard OCA",  // colour spaces
+    "Base Level",      // of a text control
 };
 // Tables of technical names, which the trade says in English everywhere.
 constexpr std::string_view kNameTables[] = {
-    "src/analysis/render/barcode.cpp", "src/analysis/render/words_values.h",
+    "src/analysis/render/barcode.cpp", "src/analysis/render/modifications.cpp", "src/analysis/render/words_values.h",
+    "src/objects/goca_decode.cpp", "src/objects/ioca_decode.cpp", "src/objects/ptoca_decode.cpp",  // names of items
+    "src/objects/ioca_render.cpp",                                 // compression algorithms, colour spaces
     "src/colour/cmr_tables.h", "src/colour/cmr_words.h", "src/colour/icc_tables.h", "src/colour/icc_words.h",
     "src/colour/icc_decode.cpp",  // signatures
 };

@@ -24,7 +24,8 @@ namespace folioscope::bench {
 namespace {
 
 constexpr char kUsage[] = "usage: make_afp SIZE FILE [--seed N] [--packaging 5a|bare|rdw2|rdw4|crlf|lf] [--faults]\n"
-                          "                [--statements | --small | --deep DEPTH | --noise | --tiny FIELD]\n"
+                          "                [--statements | --small | --deep DEPTH | --noise | --tiny FIELD |\n"
+                          "                 --texts LINES | --descriptors LINES]\n"
                           "\n"
                           "  SIZE          bytes, or with K M G (powers of 1000) or KiB MiB GiB (powers of 1024)\n"
                           "  --statements  a print run of invoices in named page groups; this is the default\n"
@@ -32,16 +33,22 @@ constexpr char kUsage[] = "usage: make_afp SIZE FILE [--seed N] [--packaging 5a|
                           "  --deep DEPTH  towers of named groups, each inside the one before it\n"
                           "  --noise       invoices with stretches of noise between them, about half of the file\n"
                           "  --tiny FIELD  nothing but records of 8 bytes of this field, such as EPG\n"
+                          "  --texts LINES nothing but PTX records of so many lines of text, each record another text\n"
+                          "  --descriptors LINES\n"
+                          "                the same lines behind descriptors (PTD-2)\n"
                           "  --faults      adds a record with unknown values to each page, small group or level\n";
 
-enum class Kind : std::uint8_t { Statements, Small, Deep, Noise, Tiny };
+enum class Kind : std::uint8_t { Statements, Small, Deep, Noise, Tiny, Texts, Descriptors };
+
+// Nothing but records of one size.
+bool IsOfOneSize(Kind kind) { return kind == Kind::Tiny || kind == Kind::Texts || kind == Kind::Descriptors; }
 
 struct Options {
     std::uint64_t size = 0, seed = 1;
     std::string path;
     const Packaging* packaging = &kPackagings[0];
     Kind kind = Kind::Statements;
-    std::size_t depth = 0;
+    std::size_t depth = 0, lines = 0;
     std::uint16_t tiny = 0;
     bool faults = false;
 };
@@ -115,7 +122,7 @@ std::nullopt_t Reject(const char* what, std::string_view value)
 // The number of kinds that were asked for, or nothing if the value of one of them is bad.
 std::optional<int> ParseKind(CommandLine& words, Options& options)
 {
-    constexpr std::uint64_t kDeepest = 10'000'000;
+    constexpr std::uint64_t kDeepest = 10'000'000, kMostLines = 500;
     int kinds = 0;
     const auto choose = [&](Kind kind) {
         options.kind = kind;
@@ -129,6 +136,15 @@ std::optional<int> ParseKind(CommandLine& words, Options& options)
         if (!depth || *depth == 0 || *depth > kDeepest) return Reject("no depth from 1 to 10000000", *text);
         options.depth = static_cast<std::size_t>(*depth);
         choose(Kind::Deep);
+    }
+    for (const auto& [word, kind] :
+         {std::pair{"--texts", Kind::Texts}, std::pair{"--descriptors", Kind::Descriptors}}) {
+        const auto text = words.Value(word);
+        if (!text) continue;
+        const auto lines = ParseNumber(*text);
+        if (!lines || *lines == 0 || *lines > kMostLines) return Reject("no count of lines from 1 to 500", *text);
+        options.lines = static_cast<std::size_t>(*lines);
+        choose(kind);
     }
     if (const auto text = words.Value("--tiny")) {
         options.tiny = PairOf(*text);
@@ -154,7 +170,7 @@ std::optional<Options> ParseOptions(CommandLine words)
     options.faults = words.Flag("--faults");
     const auto kinds = ParseKind(words, options);
     if (!kinds) return std::nullopt;
-    if (*kinds > 1 || (options.faults && options.kind == Kind::Tiny) || words.Rest().size() != 2) {
+    if (*kinds > 1 || (options.faults && IsOfOneSize(options.kind)) || words.Rest().size() != 2) {
         std::fputs(kUsage, stderr);
         return std::nullopt;
     }
@@ -331,13 +347,41 @@ void PutRun(OutputFile& out, const Options& options, Plan& plan, Dice& dice, Tot
     totals.records += plan.head.records() + plan.tail.records();
 }
 
+// Lines of a text: each sets the position and the font. The number makes them another text.
+void AppendLines(Body& body, std::size_t lines, std::uint64_t number)
+{
+    body.U1(0x2B).U1(0xD3);
+    for (std::size_t line = 0; line < lines; ++line) {
+        std::string text = "Item 000000 of the list, with a price of 00.00";
+        for (std::size_t at = 11, rest = number; at > 5; rest /= 10) text[--at] = static_cast<char>('0' + rest % 10);
+        body.Sequence(0xC6, Body().U2(300)).Sequence(0xD2, Body().U2(200 + 40 * line));
+        body.Sequence(0xF0, Body().U1(1 + line % 3)).Sequence(0xDA, Body().Text(text));
+    }
+    body.U1(2).U1(0xF8);
+}
+
+Body BodyOfOneSize(const Options& options, std::uint64_t number)
+{
+    Body body;
+    if (options.kind == Kind::Tiny) return body;
+    if (options.kind == Kind::Descriptors) body.Zeros(2).U2(14400).U2(14400).U3(100).U3(200).Zeros(2);
+    AppendLines(body, options.lines, number);
+    return body;
+}
+
+FieldName FieldOfOneSize(const Options& options)
+{
+    if (options.kind == Kind::Texts) return "PTX";
+    return options.kind == Kind::Descriptors ? FieldName("PTD-2") : FieldName(options.tiny);
+}
+
 // A size that isn't a whole number of records ends in a NOP that is a little longer.
-void PutTiny(OutputFile& out, const Options& options, Totals& totals)
+void PutRecordsOfOneSize(OutputFile& out, const Options& options, std::uint64_t recordBytes, Totals& totals)
 {
     constexpr std::uint64_t kBlockRecords = 8192;
     RecordBuilder block(*options.packaging);
-    for (std::uint64_t i = 0; i < kBlockRecords; ++i) block.Put(FieldName(options.tiny));
-    const std::uint64_t recordBytes = options.packaging->Overhead(), rest = options.size % recordBytes;
+    for (std::uint64_t i = 0; i < kBlockRecords; ++i) block.Put(FieldOfOneSize(options), BodyOfOneSize(options, i));
+    const std::uint64_t rest = options.size % recordBytes;
     std::uint64_t count = options.size / recordBytes - (rest != 0 ? 1 : 0);
     totals.records = count;
     while (count > 0) {
@@ -370,10 +414,11 @@ bool MakeFile(const Options& options)
 {
     const std::uint64_t overhead = options.packaging->Overhead();
     Totals totals;
-    if (options.kind == Kind::Tiny) {
-        if (!FitsSize(options, overhead, overhead)) return false;
+    if (IsOfOneSize(options.kind)) {
+        const std::uint64_t recordBytes = overhead + BodyOfOneSize(options, 0).Size();
+        if (!FitsSize(options, recordBytes, recordBytes)) return false;
         OutputFile out(options.path);
-        PutTiny(out, options, totals);
+        PutRecordsOfOneSize(out, options, recordBytes, totals);
         return out.Close() && Report(out, totals);
     }
     Dice dice(options.seed);

@@ -265,6 +265,35 @@ measure_dump() {  # NAME FILE
         "$(calc "$(most "${memory[@]}") - $(most "${without[@]}")" 0)" $((64 * MiB))
 }
 
+# Texts that the run leaves for later: the dump reads their records once more and decodes them. It is held against a
+# run over records that hold the same texts and are decoded at once.
+measure_texts() {  # LINES
+    local lines=$1 records=$((100000 / divisor)) name texts descriptors i
+    local -a dumps=() runs=() ratios=() shares=()
+    name="dump, $records texts of $lines lines"
+    say "$name"
+    texts=$(input texts $((records * (13 + 59 * lines))) --texts "$lines")
+    descriptors=$(input descriptors $((records * (27 + 59 * lines))) --descriptors "$lines")
+    for ((i = 0; i < pairs; ++i)); do
+        run_candidate --run-only "$descriptors"
+        local run=${figures[run]}
+        run_candidate "$texts"
+        runs+=("$run") dumps+=("${figures[dump]}")
+        ratios+=("$(calc "${figures[dump]} / $run")")
+        shares+=("$(calc "${figures[read]} / $(stat -c %s "$texts")")")
+    done
+    local ratio share
+    ratio=$(median "${ratios[@]}")
+    judge "$ratio <= 2"
+    row "$name against a run that decodes them" \
+        "$(pace "$(median "${dumps[@]}")" "$(stat -c %s "$texts")" "$records")" \
+        "$(pace "$(median "${runs[@]}")" "$(stat -c %s "$descriptors")" "$records")" "$(calc "$ratio" 2)" "<= 2" "$verdict"
+    share=$(most "${shares[@]}")
+    judge "$share <= 1.5"
+    row "$name, bytes read a byte of the file" "" "" "$(calc "$share" 2)" "<= 1.5" "$verdict"
+    rm "$texts" "$descriptors"
+}
+
 # ------------------------------------------------------------------------------------------- main
 
 check_tools() {
@@ -311,6 +340,11 @@ measure_statements() {
     rm "$smaller"
 }
 
+measure_all_texts() {
+    measure_texts 1
+    measure_texts 20
+}
+
 measure_other_files() {
     local size=$((400 * MB / divisor)) tiny=$((160 * MB / divisor)) depth=$((1000000 / divisor)) file
     file=$(input small $size --small)
@@ -336,6 +370,7 @@ trap 'rm -rf "$folder"' EXIT
 trap 'exit 1' INT TERM HUP
 print_head
 measure_statements
+measure_all_texts
 measure_other_files
 print_memory
 ((missed == 0)) || exit 3

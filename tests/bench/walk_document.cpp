@@ -3,7 +3,8 @@
 //   walk_document [--run-only] FILE
 //
 // The dump goes to standard output. One line goes to standard error: seconds of the run and of the dump, bytes of the
-// dump, records, and the anonymous memory at the end of the run and at its highest during the dump.
+// dump, records, the anonymous memory at the end of the run and at its highest during the dump, and the bytes that the
+// dump has read.
 
 #include <chrono>
 #include <cstdio>
@@ -23,6 +24,14 @@ long AnonymousBytes()
     std::ifstream status("/proc/self/status");
     for (std::string line; std::getline(status, line);)
         if (line.starts_with("RssAnon:")) return std::stol(line.substr(8)) * 1024;
+    return 0;
+}
+
+long ReadBytes()
+{
+    std::ifstream io("/proc/self/io");
+    for (std::string line; std::getline(io, line);)
+        if (line.starts_with("rchar:")) return std::stol(line.substr(6));
     return 0;
 }
 
@@ -74,16 +83,19 @@ int main(int argc, char** argv)
     const double run = Since(start);
     const long anonymous = AnonymousBytes();
     double dump = 0;
+    long read = 0;
     DumpResult result;
     host.highest = anonymous;
     if (!runOnly) {
         OutputSink sink;
+        const long before = ReadBytes();
         start = std::chrono::steady_clock::now();
         result = document.WriteDump(sink, DumpEncoding::Utf8);
         dump = Since(start);
+        read = ReadBytes() - before;
     }
     host.highest = std::max(host.highest, AnonymousBytes());
-    std::fprintf(stderr, "run %.4f dump %.4f text %llu records %d anonymous %ld dumped %ld\n", run, dump,
-                 static_cast<unsigned long long>(result.bytes), document.SFCount(), anonymous, host.highest);
+    std::fprintf(stderr, "run %.4f dump %.4f text %llu records %d anonymous %ld dumped %ld read %ld\n", run, dump,
+                 static_cast<unsigned long long>(result.bytes), document.SFCount(), anonymous, host.highest, read);
     return result.Whole() ? 0 : 4;
 }

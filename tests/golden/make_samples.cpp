@@ -8,6 +8,7 @@
 #include <string>
 
 #include "analysis/decode/dispatch.h"
+#include "golden/item_samples.h"
 #include "golden/triplet_samples.h"
 #include "support/afp_builder.h"
 
@@ -105,6 +106,78 @@ AfpFile AllTriplets()
     return file;
 }
 
+Bytes LengthAndRest(const Bytes& item, std::size_t head, const Bytes& length)
+{
+    return item.substr(0, head) + length + item.substr(head);
+}
+
+// A code, the length of what follows, and that.
+Bytes CodeLengthData(std::string_view pieces)
+{
+    const Bytes item = Pieces(pieces);
+    return LengthAndRest(item, 1, U1(static_cast<unsigned>(item.size()) - 1));
+}
+
+Bytes AllSequences()
+{
+    Bytes text;
+    for (const std::string_view sample : kSequenceSamples) {
+        const Bytes sequence = Pieces(sample);
+        text += Raw({0x2B, 0xD3}) + U1(static_cast<unsigned>(sequence.size()) + 1) + sequence;
+    }
+    return text + Ebcdic("free text");
+}
+
+Bytes AllOrders()
+{
+    Bytes orders = CodeLengthData("70 0000 0000 00 0100 0000 0000 00");
+    for (const std::string_view sample : kShortOrderSamples) orders += Pieces(sample);
+    orders += Pieces("68 C0");
+    for (const std::string_view sample : kOrderSamples) orders += CodeLengthData(sample);
+    return orders + CodeLengthData("60") + Pieces("3E 00 71 00 00");
+}
+
+Bytes AllImageFields()
+{
+    Bytes image;
+    for (const std::string_view sample : kImageFieldSamples) image += CodeLengthData(sample);
+    for (const std::string_view sample : kExtendedFieldSamples) {
+        const Bytes field = Pieces(sample);
+        image += U1(0xFE) + LengthAndRest(field, 1, U2(static_cast<unsigned>(field.size()) - 1));
+    }
+    return image + CodeLengthData("93") + CodeLengthData("71");
+}
+
+// Text, graphics, an image and a bar code with each of their items, and what describes them.
+AfpFile AllItems()
+{
+    AfpFile file;
+    file.Add("BDT", Name("ITEMS") + Zeros(2));
+    file.Add("BPT", Name("TEXT0001")).Add("PTX", AllSequences());
+    file.Add("PTX", Raw({0x2B, 0xD3}) + U1(22) + U1(0xDA) + Ebcdic("Cut at the end"));
+    file.Add("PTX", Ebcdic("______") + TextLine(1200, "and passed here")).Add("EPT", Name("TEXT0001"));
+    Bytes descriptor;
+    for (const std::string_view sample : kDescriptorSamples) descriptor += CodeLengthData(sample);
+    file.Add("BGR", Name("DRAW0001")).Add("GDD", descriptor).Add("GAD", AllOrders()).Add("EGR", Name("DRAW0001"));
+    file.Add("BIM", Name("IMAGE001")).Add("IDD", Pieces("00 0960 0960 0140 00F0") + CodeLengthData("F7 01 0B"));
+    file.Add("IPD", AllImageFields()).Add("EIM", Name("IMAGE001"));
+    file.Add("BII", Name("OLDIMAGE"));
+    file.Add("IOC", Pieces("000064 0000C8 0000 2D00 00*8 03E8 03E8 FFFF"));
+    file.Add("IID", Pieces("00*12 00 00 0960 0960 0140 00F0 00*6 0020 0010 0001 FFFF"));
+    file.Add("ICP", Pieces("0010 0020 0020 0010 FFFF FFFF")).Add("IRD", Zeros(16)).Add("EII", Name("OLDIMAGE"));
+    file.Add("BBC", Name("CODE0001"));
+    file.Add("BDD/BSD", Pieces("00 00 3840 3840 0640 0320 0000 11 02 FF FFFF 0D 00F0 01 012C"));
+    file.Add("BDA/BSA", Pieces("40 0064 00C8 '4711'")).Add("EBC", Name("CODE0001"));
+    file.Add("BCA", Name("COLORS01"));
+    file.Add("CAT", Pieces("40 00 01") + Pieces("11 01 00 02 01 00*3 08 08 08 00 0005 FF 80 00") +
+                        Pieces("0E 02 80 00 01 00 0010 0001 08 08 08 00"));
+    file.Add("ECA", Name("COLORS01"));
+    file.Add("BOC", Name("OBJECT01")).Add("OCD", Ebcdic("data of another kind")).Add("EOC", Name("OBJECT01"));
+    file.Add("FDX", Ebcdic("Fixed text"));
+    file.Add("EDT", Name("ITEMS"));
+    return file;
+}
+
 // What goes wrong in practice: Ends that don't fit, noise, an End too many, a file that stops in the middle.
 AfpFile Damaged()
 {
@@ -152,6 +225,7 @@ int main(int argc, char** argv)
     Write(folder, "statement-crlf.afp", Statement(Packaging::CrLf));
     Write(folder, "all-fields.afp", AllFields());
     Write(folder, "all-triplets.afp", AllTriplets());
+    Write(folder, "all-items.afp", AllItems());
     Write(folder, "damaged.afp", Damaged());
     return 0;
 }

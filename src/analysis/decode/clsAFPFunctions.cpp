@@ -79,6 +79,7 @@ void clsAFPFunctions::InitializeProcessing2(std::string strAFPFile, const InputP
     reader_.SetFile(std::move(strAFPFile));
     Pages = pages;
     CodePages.Reset(pages.lngInputCP);
+    Fonts = {};
     textPages_.clear();
     lastTextPage_ = nullptr;
 }
@@ -331,6 +332,18 @@ Element clsAFPFunctions::ReadTextCP(Key key, std::int32_t lngCodepage, std::int6
 Element clsAFPFunctions::ReadText(Key key, std::int64_t position, std::int64_t length)
 {
     return ReadTextCP(key, CurrentCodePage(), position, length);
+}
+
+Element clsAFPFunctions::ReadCharacter(Key key, std::int64_t position)
+{
+    std::string& pool = list_.Pool();
+    const auto from = pool.size();
+    if (const ByteTexts* texts = conversions_.TextsOf(CurrentCodePage(), Pages.lngOutputCP)) {
+        const ByteText& text = (*texts)[ByteAt(position)];
+        pool += '\0';
+        pool.append(text.utf8, text.size);
+    }
+    return list_.PooledText(key, from);
 }
 
 Element clsAFPFunctions::ObjReadTextCP(Key key, std::int32_t lngCodepage, std::int64_t position, std::int64_t length)

@@ -8,6 +8,8 @@
 
 #include "analysis/decode/byte_view.h"
 #include "analysis/decode/code_page_stack.h"
+#include "analysis/decode/fields_fonts.h"
+#include "analysis/decode/rows.h"
 #include "analysis/decode/triplets.h"
 #include "analysis/elements/element_list.h"
 #include "codepages/clsCPConversions.h"
@@ -113,11 +115,20 @@ public:
 
     void AddElement(const Element& element) { list_.AddElement(element); }
     void AddSequenceElement(const Element& element) { list_.AddSequenceElement(element); }
+    void Add(AddTo to, const Element& element)
+    {
+        if (to == AddTo::Record)
+            list_.AddElement(element);
+        else
+            list_.AddSequenceElement(element);
+    }
 
     // Text in a code page, for `key`. Two bytes x'0000' or x'FFFF' at the position stand for a text that isn't given
     // and read as the one character U+0000 or U+00FF, whatever the length.
     Element ReadTextCP(Key key, std::int32_t lngCodepage, std::int64_t position, std::int64_t length);
     Element ReadText(Key key, std::int64_t position, std::int64_t length);
+    // One byte of the current code page as text behind U+0000; empty if it can't be converted.
+    Element ReadCharacter(Key key, std::int64_t position);
     // "0F A1": at most 2,048 bytes, then three dots.
     Element ReadHex(Key key, std::int64_t position, std::int64_t length);
     std::vector<std::uint8_t> CopyRecordBytes(std::int64_t position, std::int64_t length) const;
@@ -148,6 +159,7 @@ public:
     std::vector<std::uint8_t> ObjectBuffer;  // object container data, gathered over many records
     ResourceState Resources;
     TripletState Triplets;
+    FontState Fonts;
     InputPages Pages;
     CodePageStack CodePages;
     std::int32_t CurrentCodePage() const { return CodePages.Current(); }

@@ -54,79 +54,79 @@ std::optional<std::int64_t> ShareOf(std::int32_t value, int bits, bool isSigned)
 }
 
 // A component's value and its share of the range; false if there is no range.
-bool AddValue(clsAFPFunctions& afp, const Component& component, ColorPlace place, std::int32_t number, AddToList add)
+bool AddValue(clsAFPFunctions& afp, const Component& component, ColorPlace place, std::int32_t number, AddTo to)
 {
     const bool tile = place.source == ColorSource::Tile;
     const int size = tile ? 2 : 1;
     const std::int32_t p = place.values + number * size;
     std::int32_t value = component.isSigned ? afp.ReadSigned(p, size) : afp.ReadUnsigned(p, size);
     if (tile)
-        (afp.*add)(Element::Int32(component.value, value));
+        afp.Add(to, Element::Int32(component.value, value));
     else if (component.isSigned)
-        (afp.*add)(Element::Int16(component.value, value));
+        afp.Add(to, Element::Int16(component.value, value));
     else
-        (afp.*add)(Element::Byte(component.value, static_cast<std::uint8_t>(value)));
+        afp.Add(to, Element::Byte(component.value, static_cast<std::uint8_t>(value)));
     if (tile && component.value == Key::IntensityGreen) value = afp.ByteAt(p);  // sic, of the first byte alone
     const auto share = ShareOf(value, afp.ByteAt(place.bits + number), component.isSigned);
-    if (share) (afp.*add)(Element::Int16(component.share, *share));
+    if (share) afp.Add(to, Element::Int16(component.share, *share));
     return share.has_value();
 }
 
-bool AddValues(clsAFPFunctions& afp, std::span<const Component> components, ColorPlace place, AddToList add)
+bool AddValues(clsAFPFunctions& afp, std::span<const Component> components, ColorPlace place, AddTo to)
 {
     for (std::int32_t number = 0; const Component& component : components)
-        if (!AddValue(afp, component, place, number++, add)) return false;
+        if (!AddValue(afp, component, place, number++, to)) return false;
     return true;
 }
 
-void AddAllBits(clsAFPFunctions& afp, std::span<const Component> components, std::int32_t bits, AddToList add)
+void AddAllBits(clsAFPFunctions& afp, std::span<const Component> components, std::int32_t bits, AddTo to)
 {
-    for (const Component& component : components) AddBits(afp, component.bits, bits++, add);
+    for (const Component& component : components) AddBits(afp, component.bits, bits++, to);
 }
 
-void DecodeHighlight(clsAFPFunctions& afp, ColorPlace place, AddToList add)
+void DecodeHighlight(clsAFPFunctions& afp, ColorPlace place, AddTo to)
 {
     constexpr std::int64_t kFullCoverage = 100;
-    (afp.*add)(Element::Int32(Key::HighlightColor, afp.ReadUnsigned(place.values, 2)));
+    afp.Add(to, Element::Int32(Key::HighlightColor, afp.ReadUnsigned(place.values, 2)));
     const std::uint8_t coverage = afp.ByteAt(place.values + 2), shading = afp.ByteAt(place.values + 3);
     if (place.source == ColorSource::Triplet) {
-        if (coverage != 0) (afp.*add)(Element::Byte(Key::Intensity, coverage));
-        if (shading != 0) (afp.*add)(Element::Byte(Key::Shading, shading));
+        if (coverage != 0) afp.Add(to, Element::Byte(Key::Intensity, coverage));
+        if (shading != 0) afp.Add(to, Element::Byte(Key::Shading, shading));
         return;
     }
     const bool hasCoverage = afp.ByteAt(place.bits + 1) != 0, hasShading = afp.ByteAt(place.bits + 2) != 0;
-    (afp.*add)(hasCoverage ? Element::Byte(Key::Intensity, coverage) : Element::Int16(Key::Intensity, kFullCoverage));
-    (afp.*add)(hasShading ? Element::Byte(Key::Shading, shading) : Element::Int16(Key::Shading, 0));
+    afp.Add(to, hasCoverage ? Element::Byte(Key::Intensity, coverage) : Element::Int16(Key::Intensity, kFullCoverage));
+    afp.Add(to, hasShading ? Element::Byte(Key::Shading, shading) : Element::Int16(Key::Shading, 0));
 }
 
 }  // namespace
 
-void AddBits(clsAFPFunctions& afp, Key bits, std::int32_t position, AddToList add)
+void AddBits(clsAFPFunctions& afp, Key bits, std::int32_t position, AddTo to)
 {
     const std::uint8_t count = afp.ByteAt(position);
-    (afp.*add)(Element::Byte(bits, count));
-    (afp.*add)(Element::Float64(Key::Steps, std::exp2(count)));
+    afp.Add(to, Element::Byte(bits, count));
+    afp.Add(to, Element::Float64(Key::Steps, std::exp2(count)));
 }
 
-bool DecodeColor(clsAFPFunctions& afp, ColorPlace place, AddToList add)
+bool DecodeColor(clsAFPFunctions& afp, ColorPlace place, AddTo to)
 {
     const std::uint8_t space = afp.ByteAt(place.space);
-    (afp.*add)(Element::Byte(Key::ColorSpace, space));
+    afp.Add(to, Element::Byte(Key::ColorSpace, space));
     for (const auto& [known, components] : kColorSpaces) {
         if (known != space) continue;
-        AddAllBits(afp, components, place.bits, add);
-        return AddValues(afp, components, place, add);
+        AddAllBits(afp, components, place.bits, to);
+        return AddValues(afp, components, place, to);
     }
-    if (space == kHighlight) DecodeHighlight(afp, place, add);
-    if (space == kStandardOCA) (afp.*add)(Element::Int32(Key::Color, afp.ReadUnsigned(place.values, 2)));
+    if (space == kHighlight) DecodeHighlight(afp, place, to);
+    if (space == kStandardOCA) afp.Add(to, Element::Int32(Key::Color, afp.ReadUnsigned(place.values, 2)));
     return true;
 }
 
-void AddRGBBits(clsAFPFunctions& afp, std::int32_t bits) { AddAllBits(afp, kRGB, bits, &clsAFPFunctions::AddElement); }
+void AddRGBBits(clsAFPFunctions& afp, std::int32_t bits) { AddAllBits(afp, kRGB, bits, AddTo::Record); }
 
 bool AddRGBValues(clsAFPFunctions& afp, std::int32_t bits, std::int32_t values)
 {
-    return AddValues(afp, kRGB, {0, bits, values, ColorSource::Triplet}, &clsAFPFunctions::AddElement);
+    return AddValues(afp, kRGB, {0, bits, values, ColorSource::Triplet}, AddTo::Record);
 }
 
 }  // namespace folioscope

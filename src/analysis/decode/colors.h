@@ -21,10 +21,10 @@ struct ColorPlace {
 
 // The colour space, the bits and steps of its components, their values and what share of the range these are. False:
 // the bits leave no range, and the Elements end there.
-bool DecodeColor(clsAFPFunctions& afp, ColorPlace place, AddToList add);
+bool DecodeColor(clsAFPFunctions& afp, ColorPlace place, AddTo to);
 
 // A component's bit count and the steps that so many bits give.
-void AddBits(clsAFPFunctions& afp, Key bits, std::int32_t position, AddToList add);
+void AddBits(clsAFPFunctions& afp, Key bits, std::int32_t position, AddTo to);
 
 // Red, green and blue alone: bit counts, and values of one byte each with their shares. False: as above.
 void AddRGBBits(clsAFPFunctions& afp, std::int32_t bits);

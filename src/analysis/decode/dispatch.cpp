@@ -5,8 +5,11 @@
 #include "analysis/decode/fields_barcode.h"
 #include "analysis/decode/fields_begin_end.h"
 #include "analysis/decode/fields_descriptors.h"
+#include "analysis/decode/fields_fonts.h"
+#include "analysis/decode/fields_forms.h"
 #include "analysis/decode/fields_graphics.h"
 #include "analysis/decode/fields_object_data.h"
+#include "analysis/decode/fields_page_definitions.h"
 
 namespace folioscope {
 
@@ -14,38 +17,38 @@ namespace {
 
 // clang-format off
 constexpr FieldRow kFields[] = {
-    {0x8C'87, "CPI",     "CPI (Code Page Index, x'D3 8C 87')"},
+    {0x8C'87, "CPI",     "CPI (Code Page Index, x'D3 8C 87')", By(DecodeCPI)},
     {0x8C'89, "FNI",     "FNI (Font Index, x'D3 8C 89')", Later(Port::FontGroups)},
-    {0x8C'8A, "CFI",     "CFI (Coded Font Index, x'D3 8C 8A')"},
-    {0xA0'88, "MFC",     "MFC (Medium Finishing Control, x'D3 A0 88')"},
+    {0x8C'8A, "CFI",     "CFI (Coded Font Index, x'D3 8C 8A')", By(DecodeCFI)},
+    {0xA0'88, "MFC",     "MFC (Medium Finishing Control, x'D3 A0 88')", By(DecodeMFC)},
     {0xA0'90, "TLE",     "TLE (Tag Logical Element, x'D3 A0 90')", By(DecodeTLE)},
-    {0xA2'88, "MCC",     "MCC (Medium Copy Count, x'D3 A2 88')"},
+    {0xA2'88, "MCC",     "MCC (Medium Copy Count, x'D3 A2 88')", By(DecodeMCC)},
     {0xA2'89, "FNM",     "FNM (Font Pattern Map, x'D3 A2 89')", Later(Port::FontGroups)},
     {0xA6'6B, "OBD",     "OBD (Object Area Descriptor, x'D3 A6 6B')", Behind(0, Then::Triplets)},
     {0xA6'7B, "IID",     "IID (IM Image Input Descriptor, x'D3 A6 7B')", Fixed(kIID)},
-    {0xA6'87, "CPD",     "CPD (Code Page Descriptor, x'D3 A6 87')"},
+    {0xA6'87, "CPD",     "CPD (Code Page Descriptor, x'D3 A6 87')", Fixed(kCPD)},
     {0xA6'88, "MDD",     "MDD (Medium Descriptor, x'D3 A6 88')", By(DecodeMDD)},
-    {0xA6'89, "FND",     "FND (Font Descriptor, x'D3 A6 89')"},
-    {0xA6'8D, "RCD",     "RCD (Record Descriptor, x'D3 A6 8D')"},
-    {0xA6'8E, "XMD",     "XMD (XML Descriptor, x'D3 A6 8E')"},
+    {0xA6'89, "FND",     "FND (Font Descriptor, x'D3 A6 89')", By(DecodeFND)},
+    {0xA6'8D, "RCD",     "RCD (Record Descriptor, x'D3 A6 8D')", By(DecodeRCD)},
+    {0xA6'8E, "XMD",     "XMD (XML Descriptor, x'D3 A6 8E')", By(DecodeXMD)},
     {0xA6'92, "CDD",     "CDD (Container Data Descriptor, x'D3 A6 92')", By(DecodeCDD)},
     {0xA6'9B, "PTD-1",   "PTD-1 (Presentation Text Descriptor [Older Format 1], x'D3 A6 9B')", Fixed(kPTD1)},
     {0xA6'AF, "PGD",     "PGD (Page Descriptor, x'D3 A6 AF')", Fixed(kPGD, 15, Then::Triplets)},
     {0xA6'BB, "GDD",     "GDD (Graphics Data Descriptor, x'D3 A6 BB')", By(DecodeGDD)},
     {0xA6'C5, "FGD",     "FGD (Form Environment Group Descriptor, x'D3 A6 C5')"},
     {0xA6'E3, "DXD",     "DXD (Data Map Transmission Subcase Descriptor, x'D3 A6 E3')"},
-    {0xA6'E7, "LND",     "LND (Line Descriptor, x'D3 A6 E7)"},  // sic, no closing quote
+    {0xA6'E7, "LND",     "LND (Line Descriptor, x'D3 A6 E7)", By(DecodeLND)},  // sic, no closing quote
     {0xA6'EB, "BDD/BSD", "BDD/BSD (Bar Code Data Descriptor/Bar Code Symbol Descriptor, x'D3 A6 EB')", By(DecodeBDD)},
     {0xA6'FB, "IDD",     "IDD (Image Data Descriptor, 'D3 A6 FB')", Fixed(kIDD, 9, Port::Fields)},  // sic, no x
     {0xA7'7B, "IOC",     "IOC (IM Image Output Control, x'D3 A7 7B')", Fixed(kIOC)},
-    {0xA7'87, "CPC",     "CPC (Code Page Control, x'D3 A7 87')"},
-    {0xA7'88, "MMC",     "MMC (Medium Modification Control, x'D3 A7 88')"},
-    {0xA7'89, "FNC",     "FNC (Font Control, x'D3 A7 89')"},
-    {0xA7'8A, "CFC",     "CFC (Coded Font Control, x'D3 A7 8A')"},
+    {0xA7'87, "CPC",     "CPC (Code Page Control, x'D3 A7 87')", By(DecodeCPC)},
+    {0xA7'88, "MMC",     "MMC (Medium Modification Control, x'D3 A7 88')", By(DecodeMMC)},
+    {0xA7'89, "FNC",     "FNC (Font Control, x'D3 A7 89')", By(DecodeFNC)},
+    {0xA7'8A, "CFC",     "CFC (Coded Font Control, x'D3 A7 8A')", By(DecodeCFC)},
     {0xA7'9B, "CTC",     "CTC (Composed Text Control, x'D3 A7 9B')", Behind(2, Then::Triplets)},
     {0xA7'A8, "PEC",     "PEC (Presentation Environment Control, x'D3 A7 A8')", Behind(2, Then::Triplets)},
-    {0xA7'AF, "PMC",     "PMC (Page Modification Control, x'D3 A7 AF')"},
-    {0xA7'CA, "CCP",     "CCP (Conditional Processing Control, x'D3 A7 CA')"},
+    {0xA7'AF, "PMC",     "PMC (Page Modification Control, x'D3 A7 AF')", Fixed(kPMC, 2, Then::Triplets)},
+    {0xA7'CA, "CCP",     "CCP (Conditional Processing Control, x'D3 A7 CA')", By(DecodeCCP)},
     {0xA8'5F, "BPS",     "BPS (Begin Page Segment, x'D3 A8 5F')", By(DecodeBeginData)},
     {0xA8'77, "BCA",     "BCA (Begin Color Attribute Table, x'D3 A8 77')", By(DecodeBeginData)},
     {0xA8'7B, "BII",     "BII (Begin IM Image, x'D3 A8 7B')", By(DecodeNameOnly)},
@@ -104,11 +107,11 @@ constexpr FieldRow kFields[] = {
     {0xA9'E3, "EDX",     "EDX (End Data Map Transmission Subcase, x'D3 A9 E3')", By(DecodeNameOnly)},
     {0xA9'EB, "EBC",     "EBC (End Bar Code Object, x'D3 A9 EB')", By(DecodeNamed)},
     {0xA9'FB, "EIM",     "EIM (End Image Object, x'D3 A9 FB')", By(DecodeNamed)},
-    {0xAA'E7, "LNC",     "LNC (Line Descriptor Count, x'D3 AA E7')"},
-    {0xAA'EC, "FDS",     "FDS (Fixed Data Text Size, x'D3 AA EC')"},
+    {0xAA'E7, "LNC",     "LNC (Line Descriptor Count, x'D3 AA E7')", Fixed(kLNC)},
+    {0xAA'EC, "FDS",     "FDS (Fixed Data Text Size, x'D3 AA EC')", Fixed(kFDS)},
     {0xAB'77, "MCA",     "MCA (Map Color Attribute Table, x'D3 AB 77')", Behind(0, Then::TripletGroups)},
     {0xAB'88, "MMT",     "MMT (Map Media Type, x'D3 AB 88')", Behind(0, Then::TripletGroups)},
-    {0xAB'89, "FNN",     "FNN (Font Name Map, x'D3 AB 89')"},
+    {0xAB'89, "FNN",     "FNN (Font Name Map, x'D3 AB 89')", By(DecodeFNN)},
     {0xAB'8A, "MCF-2",   "MCF (Map Coded Font [Newer Format 2], x'D3 AB 8A')", By(DecodeMapGroups)},  // sic, no number
     {0xAB'92, "MCD",     "MCD (Map Container Data, x'D3 AB 92')", Behind(2, Then::Triplets)},
     {0xAB'9B, "MPT",     "MPT (Map Presentation Text, x'D3 AB 9B')", Behind(2, Then::Triplets)},
@@ -124,10 +127,10 @@ constexpr FieldRow kFields[] = {
     {0xAB'FB, "MIO",     "MIO (Map Image Object, x'D3 AB FB')", Behind(2, Then::Triplets)},
     {0xAC'6B, "OBP",     "OBP (Object Area Position, x'D3 AC 6B')", By(DecodeOBP)},
     {0xAC'7B, "ICP",     "ICP (IM Image Cell Position, x'D3 AC 7B')", Fixed(kICP)},
-    {0xAC'89, "FNP",     "FNP (Font Position, x'D3 AC 89')"},
-    {0xAC'AF, "PGP-1",   "PGP-1 (Page Position [Older Format 1], x'D3 AC AF')"},
+    {0xAC'89, "FNP",     "FNP (Font Position, x'D3 AC 89')", By(DecodeFNP)},
+    {0xAC'AF, "PGP-1",   "PGP-1 (Page Position [Older Format 1], x'D3 AC AF')", Fixed(kPGP1)},
     {0xAD'C3, "PPO",     "PPO (Preprocess Presentation Object, x'D3 AD C3')", By(DecodePPO)},
-    {0xAE'89, "FNO",     "FNO (Font Orientation, x'D3 AE 89')"},
+    {0xAE'89, "FNO",     "FNO (Font Orientation, x'D3 AE 89')", By(DecodeFNO)},
     {0xAF'5F, "IPS",     "IPS (Include Page Segment, x'D3 AF 5F')", By(DecodeIPS)},
     {0xAF'AF, "IPG",     "IPG (Include Page, x'D3 AF AF')", By(DecodeIPG)},
     {0xAF'C3, "IOB",     "IOB (Include Object, x'D3 AF C3')", By(DecodeIOB)},
@@ -136,9 +139,9 @@ constexpr FieldRow kFields[] = {
     {0xB1'5F, "MPS",     "MPS (Map Page Segment, x'D3 B1 5F')", By(DecodeMPS)},
     {0xB1'8A, "MCF-1",   "MCF-1 (Map Coded Font [Older Format 1], x'D3 B1 8A')", By(DecodeMCF1)},
     {0xB1'9B, "PTD-2",   "PTD-2 (Presentation Text Data Descriptor [Newer Format 2], x'D3 B1 9B')", Fixed(kPTD2, 14, Port::Sequences)},
-    {0xB1'AF, "PGP-2",   "PGP (Page Position [Newer Format 2], x'D3 B1 AF')"},  // sic, no number
+    {0xB1'AF, "PGP-2",   "PGP (Page Position [Newer Format 2], x'D3 B1 AF')", By(DecodePGP2)},  // sic, no number
     {0xB1'DF, "MMO",     "MMO (Map Medium Overlay, x'D3 B1 DF')", By(DecodeMMO)},
-    {0xB2'88, "PFC",     "PFC (Presentation Fidelity Control, x'D3 B2 88')"},
+    {0xB2'88, "PFC",     "PFC (Presentation Fidelity Control, x'D3 B2 88')", By(DecodePFC)},
     {0xB2'A7, "IEL",     "IEL (Index Element, x'D3 B2 A7')", Behind(0, Then::Triplets)},
     {0xB4'90, "LLE",     "LLE (Link Logical Element, x'D3 B4 90')", By(DecodeLLE)},
     {0xEE'7B, "IRD",     "IRD (IM Image Raster Data, x'D3 EE 7B')", By(DecodeIRD)},

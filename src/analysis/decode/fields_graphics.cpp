@@ -27,7 +27,7 @@ bool AddDefaultRotation(clsAFPFunctions& afp, std::int32_t at)
 
 bool AddDefaultColor(clsAFPFunctions& afp, std::int32_t at)
 {
-    return DecodeColor(afp, {at + 1, at + 6, at + 10, ColorSource::Triplet}, &clsAFPFunctions::AddElement);
+    return DecodeColor(afp, {at + 1, at + 6, at + 10, ColorSource::Triplet}, AddTo::Record);
 }
 
 // clang-format off

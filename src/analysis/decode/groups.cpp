@@ -73,6 +73,14 @@ void AnalyzeTripletGroups(clsAFPFunctions& afp, GroupDecoder decode)
 
 void AnalyzeTripletGroups(clsAFPFunctions& afp) { AnalyzeTripletGroups(afp, DecodeTriplets); }
 
+void AnalyzeSequenceGroup(clsAFPFunctions& afp, int number, std::int32_t length, GroupDecoder decode)
+{
+    afp.AddSequenceElement(Element::Int16(Key::BeginRepetition, number));
+    afp.AddSequenceElement(Element::Int16(Key::Length, length));
+    decode(afp, afp.FieldPosition, length);
+    afp.AddSequenceElement(Element::Int16(Key::EndRepetition, number));
+}
+
 void AnalyzeGroupTriplets(clsAFPFunctions& afp, std::int32_t start, std::int32_t offset, std::int32_t length)
 {
     afp.FieldPosition = start + offset;

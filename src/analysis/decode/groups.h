@@ -24,6 +24,9 @@ void AnalyzeTypedGroups(clsAFPFunctions& afp, GroupDecoder decode);
 void AnalyzeTripletGroups(clsAFPFunctions& afp, GroupDecoder decode);
 void AnalyzeTripletGroups(clsAFPFunctions& afp);
 
+// One group of the sequence in hand: its number, the length that is told of it, and what it holds. FieldPosition stays.
+void AnalyzeSequenceGroup(clsAFPFunctions& afp, int number, std::int32_t length, GroupDecoder decode);
+
 // The triplets of a group from an offset on.
 void AnalyzeGroupTriplets(clsAFPFunctions& afp, std::int32_t start, std::int32_t offset, std::int32_t length);
 

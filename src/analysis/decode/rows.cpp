@@ -33,38 +33,38 @@ int DegreesOf(std::uint8_t angleByte)
     }
 }
 
-void ReadRows(clsAFPFunctions& afp, std::span<const Row> rows, std::int32_t base, std::int32_t length, AddToList add)
+void ReadRows(clsAFPFunctions& afp, std::span<const Row> rows, std::int32_t base, std::int32_t length, AddTo to)
 {
     for (const Row& row : rows) {
         if (row.inside && EndOf(row) > length) continue;
         const std::int32_t p = base + row.at;
         const std::int32_t bytes = row.size != 0 ? row.size : length - row.at;
         switch (const Key key = row.key; row.read) {
-        case Read::Byte: (afp.*add)(Element::Byte(key, afp.ByteAt(p))); break;
-        case Read::Unsigned: (afp.*add)(Element::Int32(key, afp.ReadUnsigned(p, row.size))); break;
-        case Read::Signed: (afp.*add)(Element::Int32(key, afp.ReadSigned(p, row.size))); break;
-        case Read::Bit: (afp.*add)(Element::Boolean(key, afp.ReadBit(p, row.size))); break;
-        case Read::TwoOrOne: (afp.*add)(Element::Int16(key, afp.ReadBit(p, row.size) ? 2 : 1)); break;
-        case Read::IsOne: (afp.*add)(Element::Boolean(key, afp.ByteAt(p) == 1)); break;
-        case Read::HighHalf: (afp.*add)(Element::Byte(key, afp.ByteAt(p) >> 4)); break;
-        case Read::LowHalf: (afp.*add)(Element::Byte(key, afp.ByteAt(p) & 0x0F)); break;
-        case Read::In256: (afp.*add)(Element::Int16(key, afp.ByteAt(p) * 256)); break;
+        case Read::Byte: afp.Add(to, Element::Byte(key, afp.ByteAt(p))); break;
+        case Read::Unsigned: afp.Add(to, Element::Int32(key, afp.ReadUnsigned(p, row.size))); break;
+        case Read::Signed: afp.Add(to, Element::Int32(key, afp.ReadSigned(p, row.size))); break;
+        case Read::Bit: afp.Add(to, Element::Boolean(key, afp.ReadBit(p, row.size))); break;
+        case Read::TwoOrOne: afp.Add(to, Element::Int16(key, afp.ReadBit(p, row.size) ? 2 : 1)); break;
+        case Read::IsOne: afp.Add(to, Element::Boolean(key, afp.ByteAt(p) == 1)); break;
+        case Read::HighHalf: afp.Add(to, Element::Byte(key, afp.ByteAt(p) >> 4)); break;
+        case Read::LowHalf: afp.Add(to, Element::Byte(key, afp.ByteAt(p) & 0x0F)); break;
+        case Read::In256: afp.Add(to, Element::Int16(key, afp.ByteAt(p) * 256)); break;
         case Read::Angle:
-            if (const int degrees = DegreesOf(afp.ByteAt(p)); degrees >= 0) (afp.*add)(Element::Int16(key, degrees));
+            if (const int degrees = DegreesOf(afp.ByteAt(p)); degrees >= 0) afp.Add(to, Element::Int16(key, degrees));
             break;
-        case Read::Inches: (afp.*add)(Element::Float64(key, afp.ReadUnsigned(p, 2) / kPerInch)); break;
-        case Read::True: (afp.*add)(Element::Boolean(key, true)); break;
-        case Read::Text: (afp.*add)(afp.ReadText(key, p, bytes)); break;
-        case Read::Text500: (afp.*add)(afp.ReadTextCP(key, kPage500, p, bytes)); break;
-        case Read::Text1252: (afp.*add)(afp.ReadTextCP(key, kPage1252, p, bytes)); break;
-        case Read::Hex: (afp.*add)(afp.ReadHex(key, p, bytes)); break;
+        case Read::Inches: afp.Add(to, Element::Float64(key, afp.ReadUnsigned(p, 2) / kPerInch)); break;
+        case Read::True: afp.Add(to, Element::Boolean(key, true)); break;
+        case Read::Text: afp.Add(to, afp.ReadText(key, p, bytes)); break;
+        case Read::Text500: afp.Add(to, afp.ReadTextCP(key, kPage500, p, bytes)); break;
+        case Read::Text1252: afp.Add(to, afp.ReadTextCP(key, kPage1252, p, bytes)); break;
+        case Read::Hex: afp.Add(to, afp.ReadHex(key, p, bytes)); break;
         }
     }
 }
 
 void ReadRows(clsAFPFunctions& afp, std::span<const Row> rows, std::int32_t base, std::int32_t length)
 {
-    ReadRows(afp, rows, base, length, &clsAFPFunctions::AddElement);
+    ReadRows(afp, rows, base, length, AddTo::Record);
 }
 
 }  // namespace folioscope

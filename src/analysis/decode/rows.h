@@ -9,8 +9,8 @@ namespace folioscope {
 
 class clsAFPFunctions;
 
-// Whether a decoder's Elements go to the record or to the sequence in hand.
-using AddToList = void (clsAFPFunctions::*)(const Element&);
+// Where a decoder's Elements go: to the record, or to the sequence in hand.
+enum class AddTo : std::uint8_t { Record, Sequence };
 
 // How a row reads its value.
 enum class Read : std::uint8_t {
@@ -57,7 +57,7 @@ constexpr Row inside(Row row)
 }
 
 // Adds an Element for each row. `base` is the buffer index of offset 0, `length` the bytes from there on.
-void ReadRows(clsAFPFunctions& afp, std::span<const Row> rows, std::int32_t base, std::int32_t length, AddToList add);
+void ReadRows(clsAFPFunctions& afp, std::span<const Row> rows, std::int32_t base, std::int32_t length, AddTo to);
 void ReadRows(clsAFPFunctions& afp, std::span<const Row> rows, std::int32_t base, std::int32_t length);
 
 // Degrees of an angle byte, or -1 for a byte that is none.

@@ -181,8 +181,7 @@ void DecodeObjectCount(clsAFPFunctions& afp, TripletPlace place) { AddTyped(afp,
 void DecodeColorSpecification(clsAFPFunctions& afp, TripletPlace place)
 {
     // Offsets of the triplet: 3 the colour space, 8 to 11 the bit counts, 12 and on the values, each one byte.
-    DecodeColor(afp, {place.start + 3, place.start + 8, place.start + 12, ColorSource::Triplet},
-                &clsAFPFunctions::AddElement);
+    DecodeColor(afp, {place.start + 3, place.start + 8, place.start + 12, ColorSource::Triplet}, AddTo::Record);
 }
 
 void DecodeDateAndTime(clsAFPFunctions& afp, TripletPlace place)

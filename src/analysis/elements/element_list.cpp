@@ -34,11 +34,6 @@ std::string_view ElementList::TextOf(const Element& element) const
     return {};
 }
 
-void ElementList::AddSequenceElement(const Element& element)
-{
-    if (SequenceCount() < kLongestSequence) sequence_.Add(element);
-}
-
 void ElementList::PublishSequence(Key types, Key values)
 {
     Element half;

@@ -30,7 +30,11 @@ public:
     // A sequence is built by ClearSequenceElements, any number of AddSequenceElement, and PublishSequence, which adds
     // its two halves. Entries past the longest sequence are dropped without a word.
     void ClearSequenceElements() { sequenceStart_ = sequence_.Size(); }
-    void AddSequenceElement(const Element& element);
+    void AddSequenceElement(const Element& element)
+    {
+        if (!SequenceIsFull()) sequence_.Add(element);
+    }
+    bool SequenceIsFull() const { return SequenceCount() >= kLongestSequence; }
     std::size_t SequenceCount() const { return sequence_.Size() - sequenceStart_; }
     void PublishSequence(Key types, Key values);
     std::span<const Element> SequenceOf(const Element& element) const;

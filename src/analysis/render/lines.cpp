@@ -2,6 +2,8 @@
 
 #include "analysis/render/words_colors.h"
 #include "analysis/render/words_common.h"
+#include "analysis/render/words_fonts.h"
+#include "analysis/render/words_forms.h"
 #include "analysis/render/words_graphics.h"
 #include "analysis/render/words_metadata.h"
 #include "analysis/render/words_objects.h"
@@ -12,8 +14,8 @@ namespace folioscope {
 
 namespace {
 
-constexpr LineIndex kLineOf =
-    IndexOf(kCommonLines, kValueLines, kTripletLines, kColorLines, kGraphicsLines, kObjectLines, kMetadataLines);
+constexpr LineIndex kLineOf = IndexOf(kCommonLines, kValueLines, kTripletLines, kColorLines, kGraphicsLines,
+                                      kObjectLines, kFormLines, kFontLines, kMetadataLines);
 
 struct ColorRow {
     std::int32_t first, last;

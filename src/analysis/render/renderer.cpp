@@ -48,7 +48,7 @@ Element KeptElements::Of(Key key) const
 void RecordState::Reset()
 {
     bits = intensity = colorValue = {};
-    barCodeType = x = y = 0;
+    barCodeType = baselineOffset = x = y = 0;
     arc = {};
     kept.Clear();
 }
@@ -108,6 +108,7 @@ void Renderer::RenderDeferred(std::span<const Element> elements, const LineIndex
 void Renderer::RenderElement(const LineRow* row, const Element& element)
 {
     if (row == nullptr || row->line == Line::Silent) return;
+    row_ = row;
     if (row->line == Line::Custom) return row->custom(*this, element);
     if (row->line == Line::Keep) return record.kept.Keep(element);
     if (row->line == Line::Words) return RenderWords(*row, element);

@@ -50,9 +50,15 @@ struct RecordState {
 
     Element bits, intensity, colorValue;
     std::int64_t barCodeType = 0;
-    std::int64_t x = 0, y = 0;  // the current position of a drawing
+    std::int64_t baselineOffset = 0;  // of the temporary baseline of a text
+    std::int64_t x = 0, y = 0;        // the current position of a drawing
     std::array<std::int64_t, 4> arc{};
     KeptElements kept;
+};
+
+// How the text read last lies: quarter turns of the inline direction and of the baseline direction, and the difference.
+struct OrientationMapping {
+    std::int16_t first = 0, axis = 0, difference = 0;
 };
 
 struct Renderer;
@@ -94,6 +100,8 @@ struct Renderer {
     void AppendNumber(std::string& out, const Element& element, Picture picture) const;
     std::string UnitsText(std::int32_t value, std::int16_t intUnits) const;
 
+    // The label of the line in hand.
+    Wording OwnLabel() const { return row_->label; }
     // Indentation, label and ": ". The caller writes the rest behind it and calls EndLine.
     std::string& BeginLine(Wording label);
     void EndLine();
@@ -114,6 +122,7 @@ struct Renderer {
     UnitState units;
     LineState lines;
     RenderPorts ports;
+    OrientationMapping orientation;
 
     // Of the record in hand.
     const ElementList* list = nullptr;
@@ -126,8 +135,9 @@ private:
     void RenderWords(const LineRow& row, const Element& element);
     void PutFault(Wording label, Label fault, std::string_view value);
 
-    std::string_view origin_;  // of the items in hand; empty outside of them
-    bool named_ = false;       // items whose name is IndentText
+    const LineRow* row_ = nullptr;  // of the line in hand
+    std::string_view origin_;       // of the items in hand; empty outside of them
+    bool named_ = false;            // items whose name is IndentText
     std::string outerIndent_;
     std::size_t headWords_;  // characters of the head lines that are the same for all records
 };

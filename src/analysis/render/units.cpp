@@ -36,11 +36,9 @@ constexpr UnitBase kUnitBases[] = {
 };
 // clang-format on
 
-const LineRow& RowOf(const Element& element) { return *LineOf(element.key); }
-
 void PutWithUnits(Renderer& renderer, const Element& element, UnitMember units)
 {
-    std::string& out = renderer.BeginLine(RowOf(element).label);
+    std::string& out = renderer.BeginLine(renderer.OwnLabel());
     renderer.AppendNumber(out, element, Picture::Grouped);
     out += "   (";
     out += renderer.UnitsText(static_cast<std::int32_t>(element.number), renderer.units.*units);
@@ -79,7 +77,7 @@ void RenderResolution(Renderer& renderer, const Element& element, UnitMember uni
 {
     const std::int64_t resolution = element.number < 10 ? element.number : RoundHalfToEven(double(element.number) / 10);
     renderer.units.*units = static_cast<std::int16_t>(resolution);
-    std::string& out = renderer.BeginLine(RowOf(element).label);
+    std::string& out = renderer.BeginLine(renderer.OwnLabel());
     renderer.AppendNumber(out, element, Picture::Grouped);
     out += "   (";
     AppendFormatted(out, resolution, Picture::Grouped, renderer.style);
@@ -90,17 +88,17 @@ void RenderResolution(Renderer& renderer, const Element& element, UnitMember uni
 void RenderSize(Renderer& renderer, const Element& element, UnitMember units)
 {
     switch (element.number) {
-    case 0: return renderer.PutLine(RowOf(element).label, renderer.Say(L("Not specified")));
+    case 0: return renderer.PutLine(renderer.OwnLabel(), renderer.Say(L("Not specified")));
     case kNotGiven2:
     case kNotGiven3:
-    case -1: return renderer.PutLine(RowOf(element).label, renderer.Say(L("Default")));
+    case -1: return renderer.PutLine(renderer.OwnLabel(), renderer.Say(L("Default")));
     default: PutWithUnits(renderer, element, units);
     }
 }
 
 void RenderOrigin(Renderer& renderer, const Element& element, UnitMember units)
 {
-    if (element.number == -1) return renderer.PutLine(RowOf(element).label, renderer.Say(L("Default")));
+    if (element.number == -1) return renderer.PutLine(renderer.OwnLabel(), renderer.Say(L("Default")));
     PutWithUnits(renderer, element, units);
 }
 
@@ -112,12 +110,12 @@ void RenderMargin(Renderer& renderer, const Element& element, UnitMember units)
 void RenderCellSize(Renderer& renderer, const Element& element)
 {
     switch (element.number) {
-    case 0: return renderer.PutLine(RowOf(element).label, renderer.Say(L("No image cell")));
+    case 0: return renderer.PutLine(renderer.OwnLabel(), renderer.Say(L("No image cell")));
     case kNotGiven2:
-    case kNotGiven3: return renderer.PutLine(RowOf(element).label, renderer.Say(L("Default")));
+    case kNotGiven3: return renderer.PutLine(renderer.OwnLabel(), renderer.Say(L("Default")));
     default: break;
     }
-    renderer.AppendNumber(renderer.BeginLine(RowOf(element).label), element, Picture::Grouped);
+    renderer.AppendNumber(renderer.BeginLine(renderer.OwnLabel()), element, Picture::Grouped);
     renderer.EndLine();
 }
 
@@ -125,20 +123,20 @@ void RenderUnitBase(Renderer& renderer, const Element& element)
 {
     for (const auto& [value, count, unit] : kUnitBases) {
         if (value != element.number) continue;
-        std::string& out = renderer.BeginLine(RowOf(element).label);
+        std::string& out = renderer.BeginLine(renderer.OwnLabel());
         out += count;
         out += renderer.Say(unit);
         return renderer.EndLine();
     }
     std::string number;
     renderer.AppendValue(number, element);
-    renderer.PutUnknown(RowOf(element).label, number);
+    renderer.PutUnknown(renderer.OwnLabel(), number);
 }
 
 // The outline's unit base isn't looked at: it is always ten inches.
-void RenderShapeUnitBase(Renderer& renderer, const Element& element)
+void RenderShapeUnitBase(Renderer& renderer, const Element&)
 {
-    std::string& out = renderer.BeginLine(RowOf(element).label);
+    std::string& out = renderer.BeginLine(renderer.OwnLabel());
     out += kUnitBases[0].count;
     out += renderer.Say(kUnitBases[0].unit);
     renderer.EndLine();
@@ -147,7 +145,7 @@ void RenderShapeUnitBase(Renderer& renderer, const Element& element)
 // Nine bits of degrees and six of minutes, above the lowest bit.
 void RenderRotation(Renderer& renderer, const Element& element)
 {
-    const Wording label = RowOf(element).label;
+    const Wording label = renderer.OwnLabel();
     if (element.number == kNotGiven2) return renderer.PutLine(label, renderer.Say(L("Default")));
     const auto degrees = static_cast<std::int32_t>((element.number & 0xFF80) / 128);
     const auto minutes = static_cast<std::int32_t>((element.number & 0x007E) / 2);

@@ -21,21 +21,19 @@ constexpr TwoWordsRow kTwoWords[] = {
 };
 // clang-format on
 
-Wording LabelOf(const Element& element) { return LineOf(element.key)->label; }
-
 }  // namespace
 
 void RenderTextOrNotSpecified(Renderer& renderer, const Element& element)
 {
     const auto value = renderer.TextOf(element);
-    renderer.PutLine(LabelOf(element), value.empty() ? renderer.Say(L("Not specified")) : value);
+    renderer.PutLine(renderer.OwnLabel(), value.empty() ? renderer.Say(L("Not specified")) : value);
 }
 
 void RenderTwoWords(Renderer& renderer, const Element& element)
 {
     for (const auto& [key, value, first, second] : kTwoWords) {
         if (key != element.key || value != (element.number != 0)) continue;
-        std::string& out = renderer.BeginLine(LabelOf(element));
+        std::string& out = renderer.BeginLine(renderer.OwnLabel());
         out += renderer.Say(first);
         out += ", ";
         out += renderer.Say(second);
@@ -45,10 +43,10 @@ void RenderTwoWords(Renderer& renderer, const Element& element)
 
 void RenderImageResolution(Renderer& renderer, const Element& element)
 {
-    if (element.number == 0) return renderer.PutLine(LabelOf(element), renderer.Say(L("Not specified")));
+    if (element.number == 0) return renderer.PutLine(renderer.OwnLabel(), renderer.Say(L("Not specified")));
     const std::int64_t resolution =
         element.number < 10 ? element.number : RoundHalfToEven(static_cast<double>(element.number) / 10);
-    std::string& out = renderer.BeginLine(LabelOf(element));
+    std::string& out = renderer.BeginLine(renderer.OwnLabel());
     AppendFormatted(out, resolution, Picture::Grouped, renderer.style);
     out += " x ";
     AppendFormatted(out, resolution, Picture::Grouped, renderer.style);
@@ -59,16 +57,16 @@ void RenderImageResolution(Renderer& renderer, const Element& element)
 void RenderGlobalId(Renderer& renderer, const Element& element)
 {
     if (element.number == 0 || element.number == kNotGiven)
-        return renderer.PutLine(LabelOf(element), renderer.Say(L("Not specified")));
-    renderer.AppendNumber(renderer.BeginLine(LabelOf(element)), element, Picture::Grouped);
+        return renderer.PutLine(renderer.OwnLabel(), renderer.Say(L("Not specified")));
+    renderer.AppendNumber(renderer.BeginLine(renderer.OwnLabel()), element, Picture::Grouped);
     renderer.EndLine();
 }
 
 void RenderPoints(Renderer& renderer, const Element& element)
 {
     constexpr double kPerInch = 72;
-    if (element.real == 0) return renderer.PutLine(LabelOf(element), renderer.Say(L("Not specified")));
-    std::string& out = renderer.BeginLine(LabelOf(element));
+    if (element.real == 0) return renderer.PutLine(renderer.OwnLabel(), renderer.Say(L("Not specified")));
+    std::string& out = renderer.BeginLine(renderer.OwnLabel());
     AppendFormatted(out, element.real * kPerInch, Picture::OneToFour, renderer.style);
     out += ' ';
     out += renderer.Say(L("Point"));
@@ -77,14 +75,14 @@ void RenderPoints(Renderer& renderer, const Element& element)
 
 void RenderMovement(Renderer& renderer, const Element& element)
 {
-    renderer.AppendNumber(renderer.BeginLine(LabelOf(element)), element, Picture::Signed);
+    renderer.AppendNumber(renderer.BeginLine(renderer.OwnLabel()), element, Picture::Signed);
     renderer.EndLine();
 }
 
 // A text stands as it is.
 void RenderDegrees(Renderer& renderer, const Element& element)
 {
-    std::string& out = renderer.BeginLine(LabelOf(element));
+    std::string& out = renderer.BeginLine(renderer.OwnLabel());
     renderer.AppendValue(out, element);
     if (element.tag != Tag::Text && element.tag != Tag::Literal) out += "°";
     renderer.EndLine();
@@ -93,14 +91,14 @@ void RenderDegrees(Renderer& renderer, const Element& element)
 void RenderColor(Renderer& renderer, const Element& element)
 {
     const Label name = ColorName(static_cast<std::int32_t>(element.number));
-    renderer.PutLine(LabelOf(element), name == Label::None ? std::string_view() : renderer.Say(name));
+    renderer.PutLine(renderer.OwnLabel(), name == Label::None ? std::string_view() : renderer.Say(name));
 }
 
-void RenderLabelAlone(Renderer& renderer, const Element& element)
+void RenderLabelAlone(Renderer& renderer, const Element&)
 {
     std::string& out = renderer.text.Open();
     out += renderer.IndentText;
-    out += renderer.Say(LabelOf(element));
+    out += renderer.Say(renderer.OwnLabel());
     renderer.EndLine();
 }
 
@@ -108,12 +106,12 @@ void RenderLabelAlone(Renderer& renderer, const Element& element)
 void RenderOIDType(Renderer& renderer, const Element& element)
 {
     const auto name = renderer.TextOf(element);
-    renderer.PutLine(LabelOf(element), name.substr(std::min<std::size_t>(name.size(), 2)));
+    renderer.PutLine(renderer.OwnLabel(), name.substr(std::min<std::size_t>(name.size(), 2)));
 }
 
 void RenderHyperlink(Renderer& renderer, const Element& element)
 {
-    std::string& out = renderer.BeginLine(LabelOf(element));
+    std::string& out = renderer.BeginLine(renderer.OwnLabel());
     out += kLink;
     out += renderer.TextOf(element);
     out += kLinkEnd;
@@ -122,7 +120,7 @@ void RenderHyperlink(Renderer& renderer, const Element& element)
 
 void RenderRadius(Renderer& renderer, const Element& element)
 {
-    renderer.AppendNumber(renderer.BeginLine(LabelOf(element)), element, Picture::OneToThree);
+    renderer.AppendNumber(renderer.BeginLine(renderer.OwnLabel()), element, Picture::OneToThree);
     renderer.EndLine();
 }
 

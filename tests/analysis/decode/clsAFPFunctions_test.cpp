@@ -237,7 +237,8 @@ template <int Index> void TellingPort(clsAFPFunctions& afp)
     afp.CodePages.SetTop(1200);
 }
 
-constexpr DecodePorts kTellingPorts = {TellingPort<0>, TellingPort<1>, TellingPort<2>};
+constexpr DecodePorts kTellingPorts = {
+    .Sequences = TellingPort<0>, .Orders = nullptr, .Fields = TellingPort<1>, .FontGroups = TellingPort<2>};
 
 Lines ReadLater(RecordWalk& walk)
 {
@@ -272,7 +273,7 @@ TEST(SecondPass, AnyOtherFieldAddsNothing)
     AfpFile file;
     std::size_t count = 0;
     for (const FieldRow& row : Fields()) {
-        if (row.body.port != Port::None || row.NodeText == "RCD" || row.NodeText == "XMD") continue;
+        if (row.body.then == Then::Unread || row.NodeText == "RCD" || row.NodeText == "XMD") continue;
         file.Add(row.NodeText, Raw({1, 2, 3, 4}));
         ++count;
     }

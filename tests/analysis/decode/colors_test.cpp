@@ -169,9 +169,9 @@ TEST(Color, AddsToTheSequenceIfAsked)
     const std::int32_t at = walk.afp.FieldPosition;
     walk.afp.List().ClearSequenceElements();
     EXPECT_TRUE(
-        DecodeColor(walk.afp, {at, at + 1, at + 5, ColorSource::Triplet}, &clsAFPFunctions::AddSequenceElement));
+        DecodeColor(walk.afp, {at, at + 1, at + 5, ColorSource::Triplet}, AddTo::Sequence));
     EXPECT_EQ(walk.afp.List().SequenceCount(), 13u);
-    EXPECT_FALSE(DecodeColor(walk.afp, {at, at + 4, at + 5, ColorSource::Triplet}, &clsAFPFunctions::AddElement));
+    EXPECT_FALSE(DecodeColor(walk.afp, {at, at + 4, at + 5, ColorSource::Triplet}, AddTo::Record));
 }
 
 }  // namespace

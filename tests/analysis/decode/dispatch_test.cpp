@@ -101,11 +101,20 @@ TEST(Fields, AreDeferredInFourCases)
 {
     std::map<std::string_view, Port> ports;
     for (const FieldRow& row : Fields())
-        if (row.body.port != Port::None) ports[row.NodeText] = row.body.port;
+        if (row.body.then == Then::Unread) ports[row.NodeText] = row.body.port;
     EXPECT_EQ(
         ports,
         (std::map<std::string_view, Port>{
             {"PTX", Port::Sequences}, {"IPD", Port::Fields}, {"FNI", Port::FontGroups}, {"FNM", Port::FontGroups}}));
+}
+
+TEST(Fields, GoThroughAPortAtOnceInThreeCases)
+{
+    std::map<std::string_view, Port> ports;
+    for (const FieldRow& row : Fields())
+        if (row.body.then == Then::Port) ports[row.NodeText] = row.body.port;
+    EXPECT_EQ(ports, (std::map<std::string_view, Port>{
+                         {"PTD-2", Port::Sequences}, {"IDD", Port::Fields}, {"GAD", Port::Orders}}));
 }
 
 TEST(Dispatch, EachFieldOfAFileGetsItsNamesBehindTheIntroducer)
