@@ -3,6 +3,8 @@ set(FAMILY_TESTS
   family_support.cpp
   decode/colors_test.cpp
   decode/fields_descriptors_test.cpp
+  decode/fields_fnn_test.cpp
+  decode/fields_fonts_test.cpp
   decode/fields_forms_test.cpp
   decode/fields_maps_test.cpp
   decode/fields_page_definitions_test.cpp
