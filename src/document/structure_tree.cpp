@@ -193,6 +193,7 @@ void StructureTree::AppendDeferred(std::string_view text)
     if (second >= nodes_.Size()) return;
     line_.clear();
     AppendBody(line_, second);
+    if (Utf16Length(line_) >= PropertyText::kCapacity) return;  // many objects without a Begin would make it grow on
     line_ += text;
     nodes_[second].nameLine = false;
     nodes_[second].content = texts_.Keep(line_);

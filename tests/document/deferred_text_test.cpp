@@ -262,5 +262,17 @@ TEST(DeferredText, IsTheSameWithoutTheMemoryOfRecords)
     EXPECT_EQ(DumpOf(*remembered), DumpOf(plain));
 }
 
+TEST(DeferredText, OfObjectsWithoutABeginDoesNotGrowForEver)
+{
+    AfpFile file = Container(kColourResource, SmallResource());
+    constexpr int kStray = 2000;
+    for (int i = 0; i < kStray; ++i) file.Add("EOC", Ebcdic8("OBJECT"));
+    const auto document = AnalyseAll(file);
+    constexpr std::uint32_t kFirstStray = kEnd1 + 1;
+    const std::size_t length = document->Content(kFirstStray).size();
+    EXPECT_GT(length, 65'536u);
+    EXPECT_LT(length, 70'000u);
+}
+
 }  // namespace
 }  // namespace folioscope
