@@ -225,7 +225,7 @@ TEST(Analyser, ReadingNamesTheFieldsRow)
 
 // The second pass ---------------------------------------------------------------------------------------------------
 
-constexpr std::string_view kPorts[] = {"Sequences", "Fields", "FontGroups"};
+constexpr std::string_view kPorts[] = {"Sequences", "Orders", "Fields", "FontGroups"};
 
 // A port that tells its name, its place in the record and the code page level.
 template <int Index> void TellingPort(clsAFPFunctions& afp)
@@ -237,7 +237,7 @@ template <int Index> void TellingPort(clsAFPFunctions& afp)
     afp.CodePages.SetTop(1200);
 }
 
-constexpr DecodePorts kTellingPorts = {TellingPort<0>, TellingPort<1>, TellingPort<2>};
+constexpr DecodePorts kTellingPorts = {TellingPort<0>, TellingPort<1>, TellingPort<2>, TellingPort<3>};
 
 Lines ReadLater(RecordWalk& walk)
 {
@@ -272,7 +272,7 @@ TEST(SecondPass, AnyOtherFieldAddsNothing)
     AfpFile file;
     std::size_t count = 0;
     for (const FieldRow& row : Fields()) {
-        if (row.body.port != Port::None || row.NodeText == "RCD" || row.NodeText == "XMD") continue;
+        if (row.body.then == Then::Unread || row.NodeText == "RCD" || row.NodeText == "XMD") continue;
         file.Add(row.NodeText, Raw({1, 2, 3, 4}));
         ++count;
     }

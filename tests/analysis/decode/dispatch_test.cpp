@@ -97,15 +97,26 @@ TEST(Fields, AreThoseThatTheReaderKnowsAndTwoMore)
     EXPECT_EQ(known, 134);
 }
 
+using Ports = std::map<std::string_view, Port>;
+
+Ports PortsOf(Then then)
+{
+    Ports ports;
+    for (const FieldRow& row : Fields())
+        if (row.body.then == then) ports[row.NodeText] = row.body.port;
+    return ports;
+}
+
 TEST(Fields, AreDeferredInFourCases)
 {
-    std::map<std::string_view, Port> ports;
-    for (const FieldRow& row : Fields())
-        if (row.body.port != Port::None) ports[row.NodeText] = row.body.port;
     EXPECT_EQ(
-        ports,
-        (std::map<std::string_view, Port>{
-            {"PTX", Port::Sequences}, {"IPD", Port::Fields}, {"FNI", Port::FontGroups}, {"FNM", Port::FontGroups}}));
+        PortsOf(Then::Unread),
+        (Ports{{"PTX", Port::Sequences}, {"IPD", Port::Fields}, {"FNI", Port::FontGroups}, {"FNM", Port::FontGroups}}));
+}
+
+TEST(Fields, GoThroughAPortAtOnceInThreeCases)
+{
+    EXPECT_EQ(PortsOf(Then::Port), (Ports{{"GAD", Port::Orders}, {"IDD", Port::Fields}, {"PTD-2", Port::Sequences}}));
 }
 
 TEST(Dispatch, EachFieldOfAFileGetsItsNamesBehindTheIntroducer)

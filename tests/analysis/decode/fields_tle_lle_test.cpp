@@ -237,7 +237,7 @@ TEST(BOC, PreparesToGatherWhatIsDecodedFurther)
         walk.Next();
         const bool gathered = entry != "17";
         EXPECT_EQ(walk.walk.afp.ObjectBuffer,
-                  gathered ? std::vector<std::uint8_t>{0} : (std::vector<std::uint8_t>{1, 2, 3}))
+                  gathered ? std::vector<std::uint8_t>{} : (std::vector<std::uint8_t>{1, 2, 3}))
             << entry;
     }
 }

@@ -78,9 +78,12 @@ TEST(LineOf, GivesTheRowOfTheKey)
 {
     const auto rows = AllRows();
     for (std::size_t key = 1; key < rows.size(); ++key) {
-        ASSERT_NE(rows[key], nullptr) << key;
+        if (rows[key] == nullptr) continue;  // told in items of data objects only
         EXPECT_EQ(rows[key]->key, static_cast<Key>(key));
     }
+    EXPECT_NE(LineOf(Key::SFName), nullptr);
+    EXPECT_NE(LineOf(Key::ContInNextSF), nullptr);
+    EXPECT_EQ(LineOf(Key::BeginSequence), nullptr);
 }
 
 TEST(LineOf, KnowsNoLineOfNoKey) { EXPECT_EQ(LineOf(Key::NoKey), nullptr); }

@@ -278,11 +278,5 @@ TEST(SilentKeys, ShowNothing)
     EXPECT_TRUE(bench.witness.heard.empty());
 }
 
-TEST(AllKeys, HaveALineOrAreSilent)
-{
-    for (std::size_t key = 1; key < static_cast<std::size_t>(Key::KeyCount); ++key)
-        EXPECT_NE(LineOf(static_cast<Key>(key)), nullptr) << NameOf(static_cast<Key>(key));
-}
-
 }  // namespace
 }  // namespace folioscope
