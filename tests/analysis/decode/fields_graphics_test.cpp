@@ -96,7 +96,7 @@ TEST(GDDSpace, HasUnitsAndEdges)
     ExpectPart("F6 C0 00 00 00 3840 1C20 0BB8 FF9C 05A0 0000 7FFF",
                "Boolean PicturePS 1 | Picture presentation space: 3-D\n"
                "Boolean PictureDimension 1 | Picture dimension: Absolute (defined)\n"
-               "Boolean Symmetric 0 | Image symmetric: Symmetric\n"
+               "Int16 Symmetric 0 | Image symmetric: Symmetric\n"
                "Int32 Resolution 3000 | Resolution X/Y: 300 x 300 ppi\n"
                "Byte UnitBaseX 0 | Base unit X axis: 10 Inch\n"
                "Byte UnitBaseY 0 | Base unit Y axis: 10 Inch\n"
@@ -130,12 +130,11 @@ TEST(GDDSpace, HasFlags)
         return ShowRecord({"GDD", Pieces("F6 12 " + std::string(flags) + " 00 00 00 3840 3840 0BB8 00*8")}).elements;
     };
     const Lines none = of("00"), symmetric = of("08"), others = of("37");
-    EXPECT_EQ((Lines{none[3], none[4], none[5]}),
-              (Lines{"PicturePS False", "PictureDimension False", "Symmetric False"}));
+    EXPECT_EQ((Lines{none[3], none[4], none[5]}), (Lines{"PicturePS False", "PictureDimension False", "Symmetric 0"}));
     EXPECT_EQ((Lines{symmetric[3], symmetric[4], symmetric[5]}),
-              (Lines{"PicturePS False", "PictureDimension False", "Symmetric True"}));
+              (Lines{"PicturePS False", "PictureDimension False", "Symmetric 1"}));
     EXPECT_EQ((Lines{others[3], others[4], others[5]}),
-              (Lines{"PicturePS False", "PictureDimension False", "Symmetric False"}));
+              (Lines{"PicturePS False", "PictureDimension False", "Symmetric 0"}));
 }
 
 // Defaults: type, length, subtype, mask, flags, values
