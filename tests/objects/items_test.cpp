@@ -96,14 +96,19 @@ TEST(FreeText, EndsAtTheNextSequence)
                                   "Boolean NewLine 1", "Text BeginSequence Free Text", "Text TransparentData You"}));
 }
 
-TEST(FreeText, IsSplitByABytesOfThePrefixAlone)
+TEST(FreeText, IsSplitByTheFirstByteOfAPrefix)
 {
-    const ShownItems shown = ShowItems("PTX", Pieces("'ab' 2B 'cd' 2B 2B 'ef'"));
-    EXPECT_EQ(ValuesOf(shown, "TransparentData").size(), 4u);
-    EXPECT_EQ(ValuesOf(shown, "TransparentData").front(), "ab");
-    // The first byte is never the end.
-    const ShownItems first = ShowItems("PTX", Pieces("2B 'abc'"));
-    EXPECT_EQ(ValuesOf(first, "TransparentData").size(), 1u);
+    const auto texts = [](std::string_view pieces) {
+        const ShownItems shown = ShowItems("PTX", Pieces(pieces));
+        Lines values = ValuesOf(shown, "TransparentData");
+        EXPECT_EQ(shown.items.size(), 2 * values.size());
+        EXPECT_EQ(shown.record, Lines{});
+        return values;
+    };
+    const std::string prefixByte = texts("2B 'a'").at(0);  // as a character
+    EXPECT_EQ(texts("'ab' 2B 'cd' 2B 2B 'ef'"), (Lines{"ab", prefixByte + "cd", prefixByte, prefixByte + "e"}));
+    EXPECT_EQ(texts("2B 'abc'"), Lines{prefixByte + "ab"});  // the first byte is never the end
+    EXPECT_EQ(texts("'ab' D3 'cd'"), (Lines{"abLc"}));
 }
 
 TEST(EmptyFields, HaveNoItems)
