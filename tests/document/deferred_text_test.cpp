@@ -173,6 +173,34 @@ TEST(DeferredText, OfOneObjectIsGoneBeforeTheNext)
     EXPECT_EQ(BodyOf(*document, kEnd1 + 4).find("CMR"), std::string::npos);
 }
 
+// Ends that close nothing all speak to the same node, which takes so much and no more.
+TEST(DeferredText, OfManyEndsInOneFolderIsLimited)
+{
+    AfpFile file = AfpFile().Add("BOC", kColourResource).Add("OCD", SmallResource());
+    for (int i = 0; i < 5000; ++i) file.Add(Field{"EOC", Ebcdic8("OBJECT"), 0x20});
+    const auto document = AnalyseAll(file);
+    const std::string body = BodyOf(*document, kData);
+    EXPECT_GE(body.size(), PropertyText::kCapacity);
+    EXPECT_LT(body.size(), PropertyText::kCapacity + 2000);
+    EXPECT_TRUE(body.starts_with("No. of bytes with object data: 164\r\n" + std::string(kShown)));
+    EXPECT_NE(body.find("CMR size: 0\r\n"), std::string::npos) << "the object of the first End is gone";
+}
+
+TEST(DeferredText, OfSeveralEndsStandsInTheirOrder)
+{
+    const auto document = AnalyseAll(AfpFile()
+                                         .Add("BOC", kColourResource)
+                                         .Add("OCD", SmallResource("1.0"))
+                                         .Add(Field{"EOC", Ebcdic8("OBJECT"), 0x20})
+                                         .Add("OCD", SmallResource("2.0"))
+                                         .Add("EOC", Ebcdic8("OBJECT")));
+    const std::string body = BodyOf(*document, kData);
+    const auto one = body.find("CMR version: 1.0"), two = body.find("CMR version: 2.0");
+    ASSERT_NE(one, std::string::npos);
+    ASSERT_NE(two, std::string::npos);
+    EXPECT_LT(one, two);
+}
+
 // The two texts of a node don't share their room.
 TEST(DeferredText, HasARoomOfItsOwn)
 {
