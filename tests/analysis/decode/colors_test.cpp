@@ -168,8 +168,7 @@ TEST(Color, AddsToTheSequenceIfAsked)
     walk.Next();
     const std::int32_t at = walk.afp.FieldPosition;
     walk.afp.List().ClearSequenceElements();
-    EXPECT_TRUE(
-        DecodeColor(walk.afp, {at, at + 1, at + 5, ColorSource::Triplet}, AddTo::Sequence));
+    EXPECT_TRUE(DecodeColor(walk.afp, {at, at + 1, at + 5, ColorSource::Triplet}, AddTo::Sequence));
     EXPECT_EQ(walk.afp.List().SequenceCount(), 13u);
     EXPECT_FALSE(DecodeColor(walk.afp, {at, at + 4, at + 5, ColorSource::Triplet}, AddTo::Record));
 }
