@@ -135,13 +135,40 @@ void AppendGeneral(std::string& out, const Decimal& decimal, int significant, co
     AppendNumber(out, std::int64_t{std::abs(power)});
 }
 
+constexpr std::int64_t kThousand = 1000;
+
+void AppendThreeDigits(std::string& out, std::int64_t value)
+{
+    out += static_cast<char>('0' + value / 100);
+    out += static_cast<char>('0' + value / 10 % 10);
+    out += static_cast<char>('0' + value % 10);
+}
+
+// Most numbers are whole, and have no more than two groups of digits.
+bool IsSmall(std::int64_t value, Picture picture)
+{
+    return (picture == Picture::Grouped || picture == Picture::GroupedThree) && value >= 0 &&
+           value < kThousand * kThousand;
+}
+
+void AppendSmall(std::string& out, std::int64_t value, Picture picture, const NumberStyle& style)
+{
+    if (value >= kThousand) {
+        AppendNumber(out, value / kThousand);
+        out += style.thousands;
+        AppendThreeDigits(out, value % kThousand);
+    } else if (picture == Picture::GroupedThree) {
+        AppendThreeDigits(out, value);
+    } else {
+        AppendNumber(out, value);
+    }
+}
+
 }  // namespace
 
 void AppendFormatted(std::string& out, std::int64_t value, Picture picture, const NumberStyle& style)
 {
-    // Most numbers are small, and stand as they are.
-    constexpr std::int64_t kThousand = 1000;
-    if (picture == Picture::Grouped && value >= 0 && value < kThousand) return AppendNumber(out, value);
+    if (IsSmall(value, picture)) return AppendSmall(out, value, picture, style);
     AppendDecimal(out, DecimalOf(value), picture, style);
 }
 

@@ -59,17 +59,24 @@ std::size_t Utf8Step(char first)
     return byte < 0xC0 || byte > 0xF7 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
 }
 
+// A unit for each byte that begins a character, and one more for each that begins one of four bytes: counted for eight
+// bytes at a time.
 std::size_t Utf16Length(std::string_view text)
 {
-    // Most texts are ASCII, where each byte is a character.
-    constexpr std::uint64_t kHighBits = 0x8080808080808080u;
-    std::size_t at = 0;
+    constexpr std::uint64_t kLowest = 0x0101010101010101u;  // of each byte
+    std::size_t units = 0, at = 0;
     for (; at + 8 <= text.size(); at += 8) {
-        std::uint64_t piece;
-        std::memcpy(&piece, text.data() + at, 8);
-        if ((piece & kHighBits) != 0) break;
+        std::uint64_t bytes;
+        std::memcpy(&bytes, text.data() + at, 8);
+        const std::uint64_t high = bytes >> 7 & kLowest;
+        if (high == 0) {
+            units += 8;
+            continue;
+        }
+        const std::uint64_t second = bytes >> 6 & high, four = bytes >> 5 & bytes >> 4 & second;
+        const auto count = [](std::uint64_t marks) { return static_cast<std::size_t>(marks * kLowest >> 56); };
+        units += 8 - count(high & ~second) + count(four);
     }
-    std::size_t units = at;
     for (; at < text.size(); ++at) {
         const auto byte = static_cast<unsigned char>(text[at]);
         units += (byte & 0xC0) != 0x80;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "base/text_buffer.h"
 #include "base/version.h"
 #include "codepages/system_page.h"
 #include "document/document.h"
@@ -43,7 +44,6 @@ public:
     {
         separator_ = std::string(kSeparator);
         separator_ += lineEnd_;
-        buffer_.reserve(kBufferSize * 2);
     }
 
     DumpResult Write()
@@ -61,7 +61,7 @@ public:
                 if (result_.cancelled) break;
             }
             PutNode(walk.Node(), walk.Depth());
-            if (buffer_.size() >= kBufferSize) Flush();
+            if (buffer_.Size() >= kBufferSize) Flush();
         }
         Flush();
         if (opened_) document_.RedirectCloseAFPFile();
@@ -71,10 +71,13 @@ public:
 private:
     void Put(std::string_view text)
     {
-        if (system_)
-            AppendInSystemPage(text, buffer_);
-        else
+        if (!system_) {
             buffer_ += text;
+            return;
+        }
+        converted_.clear();
+        AppendInSystemPage(text, converted_);
+        buffer_ += converted_;
     }
 
     // What stands in front of a block's node name. Neighbours mostly have the same depth.
@@ -85,9 +88,9 @@ private:
             return PutPrefix(depth);
         }
         if (depth != headDepth_) {
-            head_ = separator_;
-            head_.append(depth - 1, '>');
-            head_ += '\t';
+            prefix_.assign(depth - 1, '>');
+            prefix_ += '\t';
+            head_ = separator_ + prefix_;
             headDepth_ = depth;
         }
         buffer_ += head_;
@@ -98,9 +101,9 @@ private:
     {
         for (std::size_t left = depth - 1; left > 0;) {
             const std::size_t piece = std::min(left, kBufferSize);
-            buffer_.append(piece, '>');
+            buffer_.Append(piece, '>');
             left -= piece;
-            if (buffer_.size() >= kBufferSize) Flush();
+            if (buffer_.Size() >= kBufferSize) Flush();
         }
         buffer_ += '\t';
     }
@@ -181,13 +184,26 @@ private:
             PutWholeText(node);
         else
             PutNodeName(node);
+        // Most lines have no marker: where the next one stands is looked up once, not line by line.
+        auto marker = std::min(text.find(kMarker.front()), text.size());
         for (bool first = true; end != std::string_view::npos; first = false, end = text.find(kCrLf)) {
-            if (!first) PutPrefix(depth);
+            if (!first) PutPrefixAgain(depth);
             buffer_ += '\t';
-            PutLine(text.substr(0, end));
+            PutLine(text.substr(0, end), marker < end);
             buffer_ += lineEnd_;
-            text.remove_prefix(end + kCrLf.size());
+            const std::size_t passed = end + kCrLf.size();
+            text.remove_prefix(passed);
+            marker = marker >= passed ? marker - passed : std::min(text.find(kMarker.front()), text.size());
         }
+    }
+
+    // In front of all lines of a block but the first.
+    void PutPrefixAgain(std::uint32_t depth)
+    {
+        if (depth == headDepth_)
+            buffer_ += prefix_;
+        else
+            PutPrefix(depth);
     }
 
     void PutWholeText(std::uint32_t node)
@@ -214,9 +230,9 @@ private:
         Put(std::string_view(name_).substr(0, colon == 0 ? std::string::npos : colon));
     }
 
-    void PutLine(std::string_view line)
+    void PutLine(std::string_view line, bool marked)
     {
-        if (line.find(kMarker.front()) == std::string_view::npos) return Put(line);
+        if (!marked) return Put(line);
         line_.clear();
         AppendWithoutMarkup(line_, line);
         Put(line_);
@@ -224,9 +240,9 @@ private:
 
     void Flush()
     {
-        if (!result_.output) result_.output = sink_.Write(buffer_);
-        result_.bytes += buffer_.size();
-        buffer_.clear();
+        if (!result_.output) result_.output = sink_.Write(buffer_.Text());
+        result_.bytes += buffer_.Size();
+        buffer_.Clear();
     }
 
     const NodeRecord& record(std::uint32_t node) const { return tree_.Nodes()[node]; }
@@ -236,7 +252,8 @@ private:
     DumpSink& sink_;
     bool system_;
     std::string_view lineEnd_;
-    std::string separator_, head_, buffer_, body_, name_, line_;
+    TextBuffer buffer_{2 * kBufferSize};
+    std::string separator_, head_, prefix_, body_, name_, line_, converted_;
     std::uint32_t headDepth_ = 0;  // the depth that head_ is made for
     DumpResult result_;
     bool opened_ = false;

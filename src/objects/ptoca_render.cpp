@@ -14,7 +14,8 @@ void RenderText(Renderer& renderer, const Element& element)
     const std::string_view value = renderer.TextOf(element);
     std::string& out = renderer.text.Open();
     out += renderer.IndentText;
-    out += "\t\t";
+    constexpr std::string_view kTextColumn = "\t\t";
+    out += kTextColumn;
     out += kBold;
     if (value != std::string_view("\0", 1)) out += value;
     out += kNormal;

@@ -186,5 +186,19 @@ TEST(Text, OneLineHasNoControlsThatHaveNoPicture)
     EXPECT_EQ(OnOneLine(Utf8(0xA0) + Utf8(0x2027) + Utf8(0x202A)), Utf8(0xA0) + Utf8(0x2027) + Utf8(0x202A));
 }
 
+TEST(Utf16Length, CountsEachCharacterAtEachPlace)
+{
+    const std::string_view characters[] = {"a", "ä", "€", "𝒳"};
+    for (std::size_t before = 0; before < 20; ++before)
+        for (std::size_t behind = 0; behind < 20; ++behind)
+            for (const std::string_view character : characters) {
+                const std::string text = std::string(before, 'x') + std::string(character) + std::string(behind, 'y');
+                EXPECT_EQ(Utf16Length(text), before + (character.size() == 4 ? 2 : 1) + behind) << text;
+            }
+    std::string all;
+    for (int i = 0; i < 100; ++i) all += "aä€𝒳";
+    EXPECT_EQ(Utf16Length(all), 500u);
+}
+
 }  // namespace
 }  // namespace folioscope

@@ -14,9 +14,10 @@ template <class Value> class GrowingList {
     static_assert(std::is_trivially_copyable_v<Value>);
 
 public:
-    void Add(const Value& value)
+    [[gnu::always_inline]] void Add(const Value& value)
     {
-        if (size_ == capacity_) Grow();
+        if (size_ == capacity_) [[unlikely]]
+            Grow();
         values_[size_++] = value;
     }
     void Clear() { size_ = 0; }

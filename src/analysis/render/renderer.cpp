@@ -10,6 +10,7 @@ namespace folioscope {
 
 namespace {
 
+constexpr std::string_view kColon = ": ";
 constexpr Wording kStructuredField = L("Structured Field");
 constexpr Wording kStartByte = L("Start byte");
 constexpr Wording kLength = L("Length");
@@ -198,7 +199,7 @@ std::string& Renderer::BeginLine(Wording label)
     std::string& out = text.Open();
     out += IndentText;
     out += Say(label);
-    out += ": ";
+    out += kColon;
     return out;
 }
 
@@ -399,7 +400,7 @@ void RenderEndOfGroup(Renderer& renderer, const Element&)
 void RenderItemName(Renderer& renderer, const Element& element)
 {
     renderer.IndentText.assign(renderer.TextOf(element));
-    renderer.IndentText += ": ";
+    renderer.IndentText += kColon;
 }
 
 }  // namespace folioscope
