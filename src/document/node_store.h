@@ -27,6 +27,7 @@ struct NodeRecord {
     bool titled : 1 = false;      // a folder that has the title of its Begin field
     bool ownCaption : 1 = false;  // `caption` is the whole text of the node, else what follows the formula
     bool nameLine : 1 = false;    // the body is the name's or the content's line made of the caption's name
+    bool described : 1 = false;   // texts that other records left follow the body
 
     TextPlace caption = kNoText;
     TextPlace content = kNoText;

@@ -183,7 +183,7 @@ void StructureTree::StoreRepeated(const NodeRecord& like, std::int32_t lngStart)
     node.lngStart = lngStart;
 }
 
-// Texts are shared by all nodes that show the same, so the longer one is a text of its own.
+// Ends that close nothing can leave any number of texts for one node, so they are kept side by side and are limited.
 void StructureTree::AppendDeferred(std::string_view text)
 {
     text = TrimBlanks(text);
@@ -191,11 +191,11 @@ void StructureTree::AppendDeferred(std::string_view text)
     if (text.empty() || first >= nodes_.Size()) return;
     const std::uint32_t second = nodes_.End(first);
     if (second >= nodes_.Size()) return;
-    line_.clear();
-    AppendBody(line_, second);
-    line_ += text;
-    nodes_[second].nameLine = false;
-    nodes_[second].content = texts_.Keep(line_);
+    DeferredTexts& texts = deferredTexts_[second];
+    if (texts.bytes >= PropertyText::kCapacity) return;
+    nodes_[second].described = true;
+    texts.places.push_back(texts_.Keep(text));
+    texts.bytes += text.size();
 }
 
 void StructureTree::CloseFolder(Status status)
@@ -369,6 +369,13 @@ std::pair<std::string_view, std::string_view> StructureTree::NameLine(std::uint3
 }
 
 void StructureTree::AppendBody(std::string& out, std::uint32_t node) const
+{
+    AppendOwnBody(out, node);
+    if (!nodes_[node].described) return;
+    for (const TextPlace place : deferredTexts_.at(node).places) out += texts_.At(place);
+}
+
+void StructureTree::AppendOwnBody(std::string& out, std::uint32_t node) const
 {
     const NodeRecord& record = nodes_[node];
     if (!record.nameLine) {

@@ -4,7 +4,9 @@
 #include <deque>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "analysis/render/node_sink.h"
 #include "base/labels.h"
@@ -40,7 +42,8 @@ public:
     void StoreNodeRecord(std::string_view body, bool head, std::int32_t lngStart, std::int32_t lngLength);
     // The current leaf came to the same as another one before it.
     void StoreRepeated(const NodeRecord& like, std::int32_t lngStart);
-    // A text that a record left for the second node of its folder, of whatever kind that is.
+    // A text that a record left for the second node of its folder, of whatever kind that is. It follows the body of
+    // that node. One that has got 65,536 bytes in this way gets no more.
     void AppendDeferred(std::string_view text);
     // Behind an End: the folder that it closes is the current node, and its parent the folder for what follows.
     void CloseFolder(Status status);
@@ -78,6 +81,7 @@ private:
     void OfferPreview();
     void CheckPair(std::string_view shortName);
     void AppendName(std::uint32_t node, std::string_view name);
+    void AppendOwnBody(std::string& out, std::uint32_t node) const;
     void Mark(std::uint32_t node);
     void AppendTags(std::string& out, bool red) const;
 
@@ -96,6 +100,13 @@ private:
     bool bolInResourceGroup_ = false, bolPreviewEnabled_ = false;
     std::int32_t lngPageCount_ = 0;
     std::deque<std::uint32_t> lngPageEnds_;
+
+    // Texts that records left for other nodes, in their order.
+    struct DeferredTexts {
+        std::vector<TextPlace> places;
+        std::size_t bytes = 0;
+    };
+    std::unordered_map<std::uint32_t, DeferredTexts> deferredTexts_;
 };
 
 // The text as a window shows it: without its leading tags.

@@ -127,9 +127,9 @@ private:
     void PutNode(std::uint32_t node, std::uint32_t depth)
     {
         const NodeRecord& record = tree_.Nodes()[node];
-        if (!record.head && record.content == kNoText) return;
+        if (!record.head && record.content == kNoText && !record.described) return;
         body_.clear();
-        if (record.nameLine && PutNameBlock(node, depth)) return;
+        if (record.nameLine && !record.described && PutNameBlock(node, depth)) return;
         if (!record.deferred)
             tree_.AppendBody(body_, node);
         else if (!ReadDeferred(node))

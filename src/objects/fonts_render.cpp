@@ -56,7 +56,6 @@ constexpr LineRow kFontArrayLines[] = {
 
 constexpr LineIndex kLineOf = IndexOf(kFontArrayLines);
 
-
 }  // namespace
 
 void RenderFontArray(Renderer& renderer, std::span<const Element> array) { renderer.RenderLines(array, kLineOf); }

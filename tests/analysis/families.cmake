@@ -2,9 +2,14 @@
 set(FAMILY_TESTS
   family_support.cpp
   decode/colors_test.cpp
+  decode/fields_barcode_test.cpp
   decode/fields_descriptors_test.cpp
+  decode/fields_fnn_test.cpp
+  decode/fields_fonts_test.cpp
   decode/fields_forms_test.cpp
+  decode/fields_graphics_test.cpp
   decode/fields_maps_test.cpp
+  decode/fields_object_data_test.cpp
   decode/fields_page_definitions_test.cpp
   decode/fields_tle_lle_test.cpp
   decode/groups_test.cpp
@@ -19,6 +24,7 @@ set(FAMILY_TESTS
   render/captions_test.cpp
   render/colors_test.cpp
   render/modifications_test.cpp
+  render/objects_test.cpp
   render/triplets_test.cpp
   render/values_test.cpp
   render/words_triplets_test.cpp

@@ -25,6 +25,7 @@ constexpr std::string_view kFixed[] = {
     "True", "False",   // how a Boolean without words is shown
     "Invalid ",        // head of the message on a rotation
     ": CCW", ": CW",   // directions of an arc
+    " private tag",    // of an ICC profile, behind its maker
     "Minimum",         // the width of a rule that has none
     "Custom (",        // a pattern set of the document's own
     "  (Offset X=",    // behind the point that it leads to
@@ -36,6 +37,8 @@ constexpr std::string_view kNameTables[] = {
     "src/analysis/render/barcode.cpp", "src/analysis/render/modifications.cpp", "src/analysis/render/words_values.h",
     "src/objects/goca_decode.cpp", "src/objects/ioca_decode.cpp", "src/objects/ptoca_decode.cpp",  // names of items
     "src/objects/ioca_render.cpp",                                 // compression algorithms, colour spaces
+    "src/colour/cmr_tables.h", "src/colour/cmr_words.h", "src/colour/icc_tables.h", "src/colour/icc_words.h",
+    "src/colour/icc_decode.cpp",  // signatures
 };
 // clang-format on
 

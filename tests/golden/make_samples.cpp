@@ -8,6 +8,7 @@
 #include <string>
 
 #include "analysis/decode/dispatch.h"
+#include "golden/colour_samples.h"
 #include "golden/item_samples.h"
 #include "golden/triplet_samples.h"
 #include "support/afp_builder.h"
@@ -178,6 +179,28 @@ AfpFile AllItems()
     return file;
 }
 
+void AddObject(AfpFile& file, std::string_view entry, const Bytes& object)
+{
+    constexpr std::size_t kStep = 300;  // data bytes of a field
+    file.Add("BOC",
+             Name("OBJECT01") + TripletOf("10 00 01 0000 90 00 06072B1200040101" + std::string(entry) + " 00*7"));
+    for (std::size_t at = 0; at < object.size(); at += kStep) file.Add("OCD", object.substr(at, kStep));
+    file.Add("EOC", Name("OBJECT01"));
+}
+
+// Colour management resources with each of their tags, an ICC profile, and metadata.
+AfpFile Colours()
+{
+    AfpFile file;
+    file.Add("BDT", Name("COLOURS") + Zeros(2));
+    for (const Bytes& object : {SampleHalftone(), SampleCurvesAndLinks(), SamplePalettes(), SampleProfile()})
+        AddObject(file, "39", object);
+    AddObject(file, "43", SampleMetadata("NONE", "<note>Sample</note>"));
+    AddObject(file, "43", SampleMetadata("GZIP", Raw({0x1F, 0x8B, 8, 0})));
+    file.Add("EDT", Name("COLOURS"));
+    return file;
+}
+
 // What goes wrong in practice: Ends that don't fit, noise, an End too many, a file that stops in the middle.
 AfpFile Damaged()
 {
@@ -226,6 +249,7 @@ int main(int argc, char** argv)
     Write(folder, "all-fields.afp", AllFields());
     Write(folder, "all-triplets.afp", AllTriplets());
     Write(folder, "all-items.afp", AllItems());
+    Write(folder, "colours.afp", Colours());
     Write(folder, "damaged.afp", Damaged());
     return 0;
 }

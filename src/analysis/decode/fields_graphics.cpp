@@ -34,7 +34,7 @@ bool AddDefaultColor(clsAFPFunctions& afp, std::int32_t at)
 constexpr Row kDrawingSpace[] = {
     bit(Key::PicturePS,        2, 0),
     bit(Key::PictureDimension, 2, 1),
-    bit(Key::Symmetric,        2, 4),
+    read(Read::OneOrZero, Key::Symmetric, 2, 4),
     u(Key::Resolution,     10, 2),
     b(Key::UnitBaseX,      5),
     b(Key::UnitBaseY,      5),                         // one unit base for both axes

@@ -14,7 +14,8 @@ std::int32_t EndOf(const Row& row)
 {
     switch (row.read) {
     case Read::Bit:
-    case Read::TwoOrOne: return row.at + row.size / 8 + 1;
+    case Read::TwoOrOne:
+    case Read::OneOrZero: return row.at + row.size / 8 + 1;
     case Read::True: return 0;
     default: return row.at + (row.size == 0 ? 1 : row.size);
     }
@@ -45,6 +46,7 @@ void ReadRows(clsAFPFunctions& afp, std::span<const Row> rows, std::int32_t base
         case Read::Signed: afp.Add(to, Element::Int32(key, afp.ReadSigned(p, row.size))); break;
         case Read::Bit: afp.Add(to, Element::Boolean(key, afp.ReadBit(p, row.size))); break;
         case Read::TwoOrOne: afp.Add(to, Element::Int16(key, afp.ReadBit(p, row.size) ? 2 : 1)); break;
+        case Read::OneOrZero: afp.Add(to, Element::Int16(key, afp.ReadBit(p, row.size) ? 1 : 0)); break;
         case Read::IsOne: afp.Add(to, Element::Boolean(key, afp.ByteAt(p) == 1)); break;
         case Read::HighHalf: afp.Add(to, Element::Byte(key, afp.ByteAt(p) >> 4)); break;
         case Read::LowHalf: afp.Add(to, Element::Byte(key, afp.ByteAt(p) & 0x0F)); break;

@@ -15,12 +15,13 @@ enum class AddTo : std::uint8_t { Record, Sequence };
 // How a row reads its value.
 enum class Read : std::uint8_t {
     Byte,
-    Unsigned,  // big-endian, 1 to 4 bytes
-    Signed,    // the same in two's complement
-    Bit,       // size: the bit's number, 0 the highest
-    TwoOrOne,  // 2 if the bit is set, else 1
-    IsOne,     // Boolean: the byte is 1
-    HighHalf,  // the upper four bits
+    Unsigned,   // big-endian, 1 to 4 bytes
+    Signed,     // the same in two's complement
+    Bit,        // size: the bit's number, 0 the highest
+    TwoOrOne,   // 2 if the bit is set, else 1
+    OneOrZero,  // the bit as a number
+    IsOne,      // Boolean: the byte is 1
+    HighHalf,   // the upper four bits
     LowHalf,
     In256,   // a byte of whole numbers, as 256ths
     Angle,   // 0x00, 0x2D, 0x5A, 0x87: 0 to 270 degrees; another byte adds nothing

@@ -17,31 +17,34 @@ enum class Shape : std::uint8_t {
 
 struct KeywordRow {
     std::uint8_t keyword;
-    const char* head;
     Shape shape;
+    Other other;
+    std::uint8_t least, most;  // numbers outside are invalid
+    const char* head;
     std::span<const Word> words = {};
-    Other other = Other::Last;
-    std::int32_t least = 0, most = 255;  // numbers outside are invalid
-    Wording before = {};                 // with a blank behind it
+    Wording before = {};  // with a blank behind it
     const char* after = "";
 };
 
 constexpr KeywordRow Worded(std::uint8_t keyword, const char* head, std::span<const Word> words,
                             Other other = Other::Last)
 {
-    return {keyword, head, Shape::Word, words, other};
+    return {keyword, Shape::Word, other, 0, 0, head, words};
 }
 constexpr KeywordRow Numbered(std::uint8_t keyword, const char* head, std::span<const Word> words, Wording before = {},
                               const char* after = "")
 {
-    return {keyword, head, Shape::Number, words, Other::Invalid, 0, 255, before, after};
+    return {keyword, Shape::Number, Other::Invalid, 0, 255, head, words, before, after};
 }
-constexpr KeywordRow Limited(std::uint8_t keyword, const char* head, std::int32_t least, std::int32_t most,
+constexpr KeywordRow Limited(std::uint8_t keyword, const char* head, std::uint8_t least, std::uint8_t most,
                              const char* after = "")
 {
-    return {keyword, head, Shape::Number, {}, Other::Invalid, least, most, {}, after};
+    return {keyword, Shape::Number, Other::Invalid, least, most, head, {}, {}, after};
 }
-constexpr KeywordRow InHex(std::uint8_t keyword, const char* head) { return {keyword, head, Shape::Hex}; }
+constexpr KeywordRow InHex(std::uint8_t keyword, const char* head)
+{
+    return {keyword, Shape::Hex, Other::Nothing, 0, 0, head};
+}
 
 // clang-format off
 constexpr Word kUnchanged[] = {{255, L("Unchanged")}};

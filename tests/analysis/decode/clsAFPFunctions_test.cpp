@@ -225,7 +225,7 @@ TEST(Analyser, ReadingNamesTheFieldsRow)
 
 // The second pass ---------------------------------------------------------------------------------------------------
 
-constexpr std::string_view kPorts[] = {"Sequences", "Fields", "FontGroups"};
+constexpr std::string_view kPorts[] = {"Sequences", "Orders", "Fields", "FontGroups"};
 
 // A port that tells its name, its place in the record and the code page level.
 template <int Index> void TellingPort(clsAFPFunctions& afp)
@@ -238,7 +238,7 @@ template <int Index> void TellingPort(clsAFPFunctions& afp)
 }
 
 constexpr DecodePorts kTellingPorts = {
-    .Sequences = TellingPort<0>, .Orders = nullptr, .Fields = TellingPort<1>, .FontGroups = TellingPort<2>};
+    .Sequences = TellingPort<0>, .Orders = TellingPort<1>, .Fields = TellingPort<2>, .FontGroups = TellingPort<3>};
 
 Lines ReadLater(RecordWalk& walk)
 {

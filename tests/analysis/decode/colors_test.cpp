@@ -168,10 +168,61 @@ TEST(Color, AddsToTheSequenceIfAsked)
     walk.Next();
     const std::int32_t at = walk.afp.FieldPosition;
     walk.afp.List().ClearSequenceElements();
-    EXPECT_TRUE(
-        DecodeColor(walk.afp, {at, at + 1, at + 5, ColorSource::Triplet}, AddTo::Sequence));
+    EXPECT_TRUE(DecodeColor(walk.afp, {at, at + 1, at + 5, ColorSource::Triplet}, AddTo::Sequence));
     EXPECT_EQ(walk.afp.List().SequenceCount(), 13u);
     EXPECT_FALSE(DecodeColor(walk.afp, {at, at + 4, at + 5, ColorSource::Triplet}, AddTo::Record));
+}
+
+// Sources: a triplet, an item of a data object, a tile
+// ----------------------------------------------------------------------------
+
+// A colour whose space, bits and values lie one behind the other.
+Lines ElementsFrom(ColorSource source, std::string_view pieces)
+{
+    RecordWalk walk(AfpFile().Add("NOP", Pieces(pieces)));
+    walk.Next();
+    const std::int32_t at = walk.afp.FieldPosition;
+    walk.afp.List().ClearCollections();
+    DecodeColor(walk.afp, {at, at + 1, at + 5, source}, AddTo::Record);
+    return walk.Lines();
+}
+
+TEST(ColorSource, OfATileHasValuesOfTwoBytes)
+{
+    EXPECT_EQ(ElementsFrom(ColorSource::Tile, "01 10 08 08 00 FFFF 80FF 00FF"),
+              (Lines{"Byte ColorSpace 1", "Byte RedBits 16", "Float64 Steps 65536.000000", "Byte GreenBits 8",
+                     "Float64 Steps 256.000000", "Byte BlueBits 8", "Float64 Steps 256.000000",
+                     "Int32 IntensityRed 65535", "Int16 Intensity 100", "Int32 IntensityGreen 33023",
+                     "Int16 Intensity 50",  // of the first byte alone
+                     "Int32 IntensityBlue 255", "Int16 Intensity 100"}));
+    EXPECT_EQ(ElementsFrom(ColorSource::Item, "01 08 08 08 00 FF 80 01"),
+              (Lines{"Byte ColorSpace 1", "Byte RedBits 8", "Float64 Steps 256.000000", "Byte GreenBits 8",
+                     "Float64 Steps 256.000000", "Byte BlueBits 8", "Float64 Steps 256.000000", "Byte IntensityRed 255",
+                     "Int16 Intensity 100", "Byte IntensityGreen 128", "Int16 Intensity 50", "Byte IntensityBlue 1",
+                     "Int16 Intensity 0"}));
+}
+
+TEST(ColorSource, DecidesWhenAHighlightHasACoverage)
+{
+    const std::string_view zeroBits = "06 00*4 0001 32 19", someBits = "06 00 01 01 00 0001 00 00";
+    EXPECT_EQ(ElementsFrom(ColorSource::Triplet, zeroBits),
+              (Lines{"Byte ColorSpace 6", "Int32 HighlightColor 1", "Byte Intensity 50", "Byte Shading 25"}));
+    EXPECT_EQ(ElementsFrom(ColorSource::Triplet, someBits), (Lines{"Byte ColorSpace 6", "Int32 HighlightColor 1"}));
+    for (const ColorSource source : {ColorSource::Item, ColorSource::Tile}) {
+        EXPECT_EQ(ElementsFrom(source, zeroBits),
+                  (Lines{"Byte ColorSpace 6", "Int32 HighlightColor 1", "Int16 Intensity 100", "Int16 Shading 0"}));
+        EXPECT_EQ(ElementsFrom(source, someBits),
+                  (Lines{"Byte ColorSpace 6", "Int32 HighlightColor 1", "Byte Intensity 0", "Byte Shading 0"}));
+    }
+}
+
+TEST(ColorSource, OfATileCanExceedAShortNumber)
+{
+    // 327 times the range still fits, 328 times doesn't: 327 x 100 = 32,700.
+    EXPECT_EQ(ElementsFrom(ColorSource::Tile, "01 01 08 08 00 0147 0000 0000").at(8), "Int16 Intensity 32700");
+    EXPECT_EQ(ElementsFrom(ColorSource::Tile, "01 01 08 08 00 0148 0000 0000").size(), 8u);
+    EXPECT_EQ(ElementsFrom(ColorSource::Tile, "08 08 02 02 00 0000 FEB9 0000").at(10), "Int16 EqualsColorValue -32700");
+    EXPECT_EQ(ElementsFrom(ColorSource::Tile, "08 08 02 02 00 0000 FEB8 0000").size(), 10u);
 }
 
 }  // namespace

@@ -97,24 +97,26 @@ TEST(Fields, AreThoseThatTheReaderKnowsAndTwoMore)
     EXPECT_EQ(known, 134);
 }
 
+using Ports = std::map<std::string_view, Port>;
+
+Ports PortsOf(Then then)
+{
+    Ports ports;
+    for (const FieldRow& row : Fields())
+        if (row.body.then == then) ports[row.NodeText] = row.body.port;
+    return ports;
+}
+
 TEST(Fields, AreDeferredInFourCases)
 {
-    std::map<std::string_view, Port> ports;
-    for (const FieldRow& row : Fields())
-        if (row.body.then == Then::Unread) ports[row.NodeText] = row.body.port;
     EXPECT_EQ(
-        ports,
-        (std::map<std::string_view, Port>{
-            {"PTX", Port::Sequences}, {"IPD", Port::Fields}, {"FNI", Port::FontGroups}, {"FNM", Port::FontGroups}}));
+        PortsOf(Then::Unread),
+        (Ports{{"PTX", Port::Sequences}, {"IPD", Port::Fields}, {"FNI", Port::FontGroups}, {"FNM", Port::FontGroups}}));
 }
 
 TEST(Fields, GoThroughAPortAtOnceInThreeCases)
 {
-    std::map<std::string_view, Port> ports;
-    for (const FieldRow& row : Fields())
-        if (row.body.then == Then::Port) ports[row.NodeText] = row.body.port;
-    EXPECT_EQ(ports, (std::map<std::string_view, Port>{
-                         {"PTD-2", Port::Sequences}, {"IDD", Port::Fields}, {"GAD", Port::Orders}}));
+    EXPECT_EQ(PortsOf(Then::Port), (Ports{{"GAD", Port::Orders}, {"IDD", Port::Fields}, {"PTD-2", Port::Sequences}}));
 }
 
 TEST(Dispatch, EachFieldOfAFileGetsItsNamesBehindTheIntroducer)

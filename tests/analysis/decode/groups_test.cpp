@@ -144,5 +144,54 @@ TEST(PlainGroups, OfTheSizeOneAreOneAByte)
     EXPECT_EQ(walk.Lines().size(), 3u * 19);
 }
 
+// Groups with a length of one byte, and with a type in front of it
+// ----------------------------------------------------------------
+
+// The lengths of the groups that a walk finds in some data.
+Lines LengthsOf(void (*walkGroups)(clsAFPFunctions&, GroupDecoder), const Bytes& data)
+{
+    RecordWalk walk(AfpFile().Add("NOP", data));
+    walk.Next();
+    walk.afp.List().ClearCollections();
+    walkGroups(walk.afp, [](clsAFPFunctions&, std::int32_t, std::int32_t) {});
+    Lines lengths;
+    for (const Element& element : walk.afp.List().Elements())
+        if (element.key == Key::Length) lengths.push_back(std::to_string(element.number));
+    return lengths;
+}
+
+TEST(ByteLengthGroups, CountTheirLengthByte)
+{
+    EXPECT_EQ(LengthsOf(AnalyzeByteLengthGroups, Raw({3, 9, 9, 2, 9, 1, 1, 1})), (Lines{"3", "2", "1", "1"}));
+    EXPECT_EQ(LengthsOf(AnalyzeByteLengthGroups, Raw({0, 9, 9})), Lines{"0"});
+    EXPECT_EQ(LengthsOf(AnalyzeByteLengthGroups, Raw({255, 9})), Lines{"255"});
+    EXPECT_EQ(LengthsOf(AnalyzeByteLengthGroups, Raw({5})), Lines{});
+    EXPECT_EQ(LengthsOf(AnalyzeByteLengthGroups, Bytes(30'000, '\1')).size(), 29'999u);
+}
+
+TEST(TypedGroups, CountWhatLiesBehindTheirLength)
+{
+    EXPECT_EQ(LengthsOf(AnalyzeTypedGroups, Raw({7, 1, 9, 7, 0, 7, 2, 9, 9})), (Lines{"3", "2", "4"}));
+    EXPECT_EQ(LengthsOf(AnalyzeTypedGroups, Raw({7, 255, 9})), Lines{"257"});
+    EXPECT_EQ(LengthsOf(AnalyzeTypedGroups, Raw({7})), Lines{});
+    EXPECT_EQ(LengthsOf(AnalyzeTypedGroups, Zeros(30'000)).size(), 15'000u);
+}
+
+TEST(NewWalks, TellWhereAGroupStarts)
+{
+    RecordWalk walk(AfpFile().Add("NOP", Raw({7, 1, 9, 7, 0})));
+    walk.Next();
+    const std::int32_t start = walk.afp.FieldPosition;
+    walk.afp.List().ClearCollections();
+    AnalyzeTypedGroups(walk.afp, [](clsAFPFunctions& afp, std::int32_t at, std::int32_t length) {
+        afp.AddElement(Element::Int32(Key::ID, at - afp.Reader().RecordStart()));
+        afp.AddElement(Element::Int32(Key::Level, length));
+    });
+    EXPECT_EQ(walk.Lines(), (Lines{"Int16 BeginRepetition 1", "Int32 Length 3", "Int32 ID 8", "Int32 Level 3",
+                                   "Int16 EndRepetition 1", "Int16 BeginRepetition 2", "Int32 Length 2", "Int32 ID 11",
+                                   "Int32 Level 2", "Int16 EndRepetition 2"}));
+    EXPECT_EQ(walk.afp.FieldPosition, start + 5);
+}
+
 }  // namespace
 }  // namespace folioscope

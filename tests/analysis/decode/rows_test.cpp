@@ -55,6 +55,8 @@ TEST(Rows, ReadBitsAndHalves)
     EXPECT_EQ(ReadOne(bit(Key::ID, 1, 9), bytes), Lines{"Boolean ID 1"});  // of the byte behind
     EXPECT_EQ(ReadOne(read(Read::TwoOrOne, Key::ID, 1, 0), bytes), Lines{"Int16 ID 2"});
     EXPECT_EQ(ReadOne(read(Read::TwoOrOne, Key::ID, 1, 1), bytes), Lines{"Int16 ID 1"});
+    EXPECT_EQ(ReadOne(read(Read::OneOrZero, Key::ID, 1, 0), bytes), Lines{"Int16 ID 1"});
+    EXPECT_EQ(ReadOne(read(Read::OneOrZero, Key::ID, 1, 1), bytes), Lines{"Int16 ID 0"});
     EXPECT_EQ(ReadOne(read(Read::HighHalf, Key::ID, 1), bytes), Lines{"Byte ID 8"});
     EXPECT_EQ(ReadOne(read(Read::LowHalf, Key::ID, 1), bytes), Lines{"Byte ID 1"});
     EXPECT_EQ(ReadOne(read(Read::IsOne, Key::ID, 0), Raw({0x01})), Lines{"Boolean ID 1"});

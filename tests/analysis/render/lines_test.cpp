@@ -81,6 +81,9 @@ TEST(LineOf, GivesTheRowOfTheKey)
         if (rows[key] == nullptr) continue;  // has its line in an item of a data object
         EXPECT_EQ(rows[key]->key, static_cast<Key>(key));
     }
+    EXPECT_NE(LineOf(Key::SFName), nullptr);
+    EXPECT_NE(LineOf(Key::ContInNextSF), nullptr);
+    EXPECT_EQ(LineOf(Key::BeginSequence), nullptr);
 }
 
 TEST(LineOf, KnowsNoLineOfNoKey) { EXPECT_EQ(LineOf(Key::NoKey), nullptr); }
