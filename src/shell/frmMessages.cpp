@@ -201,7 +201,9 @@ void frmMessages::contextMenuEvent(QContextMenuEvent* event)
     if (!lines.rect().contains(place)) return;
     const QModelIndex line = byKeyboard ? current : lvwMessages_->indexAt(place);
     if (!line.isValid()) return;
-    if (!lvwMessages_->selectionModel()->isSelected(line)) lvwMessages_->selectRow(line.row());
+    QItemSelectionModel& selection = *lvwMessages_->selectionModel();
+    if (!selection.isSelected(line))
+        selection.setCurrentIndex(line, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     mnuPopup_->popup(lines.mapToGlobal(place));
 }
 

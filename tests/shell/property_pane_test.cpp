@@ -15,6 +15,7 @@
 #include "analysis/render/property_text.h"
 #include "shell/marked_colours.h"
 #include "shell/open_in_browser.h"
+#include "shell/qt_text.h"
 #include "shell/window_checks.h"
 
 namespace folioscope {
@@ -272,8 +273,7 @@ private Q_SLOTS:
         QTest::mouseClick(pane.viewport(), Qt::LeftButton, {}, QPoint(20, 12));
         QTest::mouseDClick(pane.viewport(), Qt::LeftButton, {}, QPoint(20, 12));
         QTest::mouseRelease(pane.viewport(), Qt::LeftButton, {}, QPoint(20, 12));
-        QVERIFY(browser.addresses.size() <= 2);
-        QCOMPARE(browser.addresses.count(QStringLiteral("http://example.org")), browser.addresses.size());
+        QCOMPARE(browser.addresses.size(), 1);
     }
 
     void TheReturnKeyOpensWhatAClickOpens()
@@ -340,8 +340,8 @@ private Q_SLOTS:
             QCOMPARE(test::AccessKeysOf(texts).removeDuplicates(), 0);
             texts.replaceInStrings(QStringLiteral("&"), QString());
             const Labels labels(language);
-            QCOMPARE(texts, QStringList({QString::fromUtf8(TextOf(U("Copy"), language).data()) + "\tCtrl+C",
-                                         QString::fromUtf8(TextOf(U("Select all"), language).data()) + "\tCtrl+A"}));
+            QCOMPARE(texts,
+                     QStringList({ToQt(labels, U("Copy")) + "\tCtrl+C", ToQt(labels, U("Select all")) + "\tCtrl+A"}));
             QVERIFY(!menu->actions()[0]->isEnabled());
             menu->actions()[1]->trigger();
             QCOMPARE(pane.textCursor().selectedText().trimmed(), QStringLiteral("some text"));
