@@ -49,18 +49,20 @@ frmInformation::frmInformation(const Labels& texts, QWidget* parent) : QDialog(p
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
 
     auto* const layout = new QGridLayout(this);
-    if (const QIcon icon = windowIcon(); !icon.isNull()) {
+    const QIcon icon = windowIcon();
+    const int column = icon.isNull() ? 0 : 1;  // of the texts
+    if (!icon.isNull()) {
         auto* const picture = new QLabel;
         picture->setPixmap(icon.pixmap(kIconSize));
         layout->addWidget(picture, 0, 0, 3, 1, Qt::AlignTop);
     }
-    layout->addWidget(Title(), 0, 1);
-    layout->addWidget(LineOf(ToQt(texts, U("Version")) + QLatin1Char(' ') + ToQt(kVersion), "lblVersion"), 1, 1);
+    layout->addWidget(Title(), 0, column);
+    layout->addWidget(LineOf(ToQt(texts, U("Version")) + QLatin1Char(' ') + ToQt(kVersion), "lblVersion"), 1, column);
     const QString date = ToQt(texts, U("Last change")) + QLatin1String(": ") + ToQt(kReleaseDate);
-    layout->addWidget(LineOf(date, "lblLastChange"), 2, 1);
+    layout->addWidget(LineOf(date, "lblLastChange"), 2, column);
     layout->setRowMinimumHeight(3, kSpace);
     layout->setRowStretch(3, 1);
-    layout->addWidget(buttons, 4, 0, 1, 2);
+    layout->addWidget(buttons, 4, 0, 1, column + 1);
     layout->setHorizontalSpacing(kSpace);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     GiveAccessKeys(*this);
