@@ -132,6 +132,7 @@ private Q_SLOTS:
         QCOMPARE(pane.LinkText(), QString());
         pane.ShowPropertyText("ab\r\n");
         QCOMPARE(LooksOf(pane), QStringLiteral("[ab]/"));
+        QCOMPARE(pane.document()->parent()->findChildren<QTextDocument*>().size(), 1);
     }
 
     void TheLongestTextIsShownToItsEnd()
