@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QPixmap>
 #include <QScrollBar>
+#include <QTextDocument>
 #include <QUrl>
 
 #include "shell/icons.h"
@@ -14,8 +15,20 @@ namespace folioscope {
 namespace {
 
 constexpr int kIconSide = 16;
+constexpr int kMargin = 16;
+
+// Room between the lines; colours are the palette's.
+constexpr char kStyle[] = "p, li, td { line-height: 125% }"
+                          "table { margin-top: 6px; margin-bottom: 10px }"
+                          "h2 { margin-top: 18px }";
 
 }  // namespace
+
+HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent)
+{
+    document()->setDocumentMargin(kMargin);
+    document()->setDefaultStyleSheet(QString::fromLatin1(kStyle));
+}
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& name)
 {

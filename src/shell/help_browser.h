@@ -8,7 +8,7 @@ namespace folioscope {
 // the palette, and sharp at any scale.
 class HelpBrowser final : public QTextBrowser {
 public:
-    explicit HelpBrowser(QWidget* parent = nullptr) : QTextBrowser(parent) {}
+    explicit HelpBrowser(QWidget* parent = nullptr);
 
     QVariant loadResource(int type, const QUrl& name) override;
 

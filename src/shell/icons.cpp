@@ -21,27 +21,71 @@ namespace {
 
 // The drawings are made in the tones for a light ground.
 struct Tone {
+    bool line;  // else an area
     QByteArrayView onLight, onDark;
 };
 
 // clang-format off
 constexpr Tone kTones[] = {
-    {"#4a5663", "#c3ccd6"},  // ink
-    {"#2474b8", "#6cb4ef"}, {"#cfe3f5", "#24415c"},  // blue: what the icon is about, pages
-    {"#9a6c10", "#e0b458"}, {"#f6dfa6", "#5c4a1e"},  // amber: folders
-    {"#1b7f6f", "#58c4b0"}, {"#c9ebe3", "#1e4a42"},  // green: resources
-    {"#c03a2b", "#f08072"}, {"#f8d8d3", "#5a2a26"},  // red: what ends something
+    {true, "#4a5663", "#c3ccd6"},                                 // ink
+    {true, "#2474b8", "#6cb4ef"}, {false, "#cfe3f5", "#24415c"},  // blue: what the icon is about, pages
+    {true, "#9a6c10", "#e0b458"}, {false, "#f6dfa6", "#5c4a1e"},  // amber: folders
+    {true, "#1b7f6f", "#58c4b0"}, {false, "#c9ebe3", "#1e4a42"},  // green: resources
+    {true, "#c03a2b", "#f08072"}, {false, "#f8d8d3", "#5a2a26"},  // red: what ends something
 };
 // clang-format on
 
 constexpr float kDisabledOpacity = 0.4F;
-
-bool IsDark(const QColor& ground) { return ground.lightness() < 128; }
+constexpr int kAreaShare = 20;  // of the text's colour in an area of a selected icon, percent
 
 QByteArray InDarkTones(QByteArray svg)
 {
     for (const Tone& tone : kTones) svg.replace(tone.onLight, tone.onDark);
     return svg;
+}
+
+QByteArray Mixed(const QColor& one, const QColor& other, int share)
+{
+    const auto mix = [share](int a, int b) { return (a * (100 - share) + b * share) / 100; };
+    return QColor(mix(one.red(), other.red()), mix(one.green(), other.green()), mix(one.blue(), other.blue()))
+        .name()
+        .toLatin1();
+}
+
+// The colour of a selection goes with that of its text alone.
+QByteArray InSelectedTones(QByteArray svg, const QPalette& palette)
+{
+    const QColor text = palette.color(QPalette::HighlightedText), ground = palette.color(QPalette::Highlight);
+    for (const Tone& tone : kTones) svg.replace(tone.onLight, Mixed(ground, text, tone.line ? 100 : kAreaShare));
+    return svg;
+}
+
+QByteArray InTonesFor(QIcon::Mode mode, const QByteArray& svg)
+{
+    const QPalette palette = QGuiApplication::palette();
+    if (mode == QIcon::Selected) return InSelectedTones(svg, palette);
+    return palette.color(QPalette::Window).lightness() < 128 ? InDarkTones(svg) : svg;
+}
+
+QByteArray ContentsOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QPixmap Draw(const QByteArray& svg, const QSize& size, bool faint)
+{
+    QPixmap drawn(size);
+    drawn.fill(Qt::transparent);
+    QSvgRenderer renderer(svg);
+    const int side = std::min(size.width(), size.height());
+    QPainter painter(&drawn);
+    renderer.render(&painter, QRectF((size.width() - side) / 2, (size.height() - side) / 2, side, side));
+    if (faint) {  // the renderer sets the painter's opacity for itself
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+        painter.fillRect(drawn.rect(), QColor::fromRgbF(0, 0, 0, kDisabledOpacity));
+    }
+    return drawn;
 }
 
 class IconEngine final : public QIconEngine {
@@ -62,42 +106,24 @@ public:
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override
     {
         if (size.isEmpty()) return {};
-        const bool dark = OnDark(mode), faint = mode == QIcon::Disabled;
-        const QString cacheKey = QStringLiteral("%1 %2x%3 %4%5")
-                                     .arg(path_)
-                                     .arg(size.width())
-                                     .arg(size.height())
-                                     .arg(dark ? "dark" : "light", faint ? " faint" : "");
         QPixmap result;
+        const QString cacheKey = CacheKey(size, mode);
         if (QPixmapCache::find(cacheKey, &result)) return result;
-        result = Draw(size, dark, faint);
+        result = Draw(InTonesFor(mode, ContentsOf(path_)), size, mode == QIcon::Disabled);
         QPixmapCache::insert(cacheKey, result);
         return result;
     }
 
 private:
-    static bool OnDark(QIcon::Mode mode)
+    // A palette has a number of its own for as long as the program runs.
+    QString CacheKey(const QSize& size, QIcon::Mode mode) const
     {
-        return IsDark(
-            QGuiApplication::palette().color(mode == QIcon::Selected ? QPalette::Highlight : QPalette::Window));
-    }
-
-    QPixmap Draw(const QSize& size, bool dark, bool faint) const
-    {
-        QPixmap drawn(size);
-        drawn.fill(Qt::transparent);
-        QFile file(path_);
-        if (!file.open(QIODevice::ReadOnly)) return drawn;
-        const QByteArray svg = file.readAll();
-        QSvgRenderer renderer(dark ? InDarkTones(svg) : svg);
-        const int side = std::min(size.width(), size.height());
-        QPainter painter(&drawn);
-        renderer.render(&painter, QRectF((size.width() - side) / 2, (size.height() - side) / 2, side, side));
-        if (faint) {  // the renderer sets the painter's opacity for itself
-            painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-            painter.fillRect(drawn.rect(), QColor::fromRgbF(0, 0, 0, kDisabledOpacity));
-        }
-        return drawn;
+        return QStringLiteral("%1 %2 %3 %4x%5")
+            .arg(path_)
+            .arg(QGuiApplication::palette().cacheKey())
+            .arg(mode)
+            .arg(size.width())
+            .arg(size.height());
     }
 
     QString path_;

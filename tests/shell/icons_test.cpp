@@ -133,15 +133,22 @@ private Q_SLOTS:
         QCOMPARE(ImageOf(icon, 24), onLight);
     }
 
-    void TakeTheTonesOfTheSelectionWhenSelected()
+    void TakeTheColourOfTheTextWhenSelected()
     {
         QPalette palette;
         palette.setColor(QPalette::Window, kLight);
-        palette.setColor(QPalette::Highlight, kDark);
+        palette.setColor(QPalette::Highlight, QColor(0x30, 0x8C, 0xC6));
+        palette.setColor(QPalette::HighlightedText, QColor(0xFF, 0xFE, 0xFD));
         QGuiApplication::setPalette(palette);
-        const QImage selected = ImageOf(TreeIcon(2), 16, QIcon::Selected);
-        SetGround(kDark);
-        QCOMPARE(selected, ImageOf(TreeIcon(2), 16));
+        for (int image = 0; image < kTreeImages; ++image) {
+            const QImage selected = ImageOf(TreeIcon(image), 32, QIcon::Selected);
+            int ofText = 0;
+            for (int y = 0; y < selected.height(); ++y)
+                for (int x = 0; x < selected.width(); ++x)
+                    if (selected.pixelColor(x, y) == palette.color(QPalette::HighlightedText)) ++ofText;
+            QVERIFY2(ofText >= 20, qPrintable(QStringLiteral("tree %1").arg(image)));
+            QVERIFY(SeenOn(selected, palette.color(QPalette::Highlight)) >= 40);
+        }
     }
 
     void AreFaintWhenDisabled()
