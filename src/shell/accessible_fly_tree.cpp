@@ -144,30 +144,29 @@ void InstallAccessibleFlyTree()
     [[maybe_unused]] static const bool once = (QAccessible::installFactory(MakeAccessible), true);
 }
 
-void ForgetAccessibleRows(const FlyTree& tree)
+void ForgetAccessibleRows(FlyTree& tree)
 {
-    if (!QAccessible::isActive()) return;
-    if (auto* known =
-            dynamic_cast<AccessibleFlyTree*>(QAccessible::queryAccessibleInterface(const_cast<FlyTree*>(&tree))))
-        known->Forget();
+    if (auto* known = dynamic_cast<AccessibleFlyTree*>(QAccessible::queryAccessibleInterface(&tree))) known->Forget();
 }
 
-void TellAccessibleFocus(FlyTree& tree)
+void FlyTree::TellFocus()
 {
-    if (!QAccessible::isActive() || !tree.hasFocus() || !tree.Rows().IsVisible(tree.Selected())) return;
-    QAccessibleEvent event(&tree, QAccessible::Focus);
-    event.setChild(static_cast<int>(tree.Rows().RowOf(tree.Selected())));
-    QAccessible::updateAccessibility(&event);
+    if (!hasFocus() || !rows_.IsVisible(selected_)) return;
+    QAccessibleEvent event(this, QAccessible::Focus);
+    event.setChild(static_cast<int>(rows_.RowOf(selected_)));
+    SendAccessible(event);
 }
 
-void TellAccessibleState(FlyTree& tree, std::uint32_t node)
+void FlyTree::TellState(std::uint32_t node)
 {
-    if (!QAccessible::isActive() || !tree.Rows().IsVisible(node)) return;
+    if (!rows_.IsVisible(node)) return;
     QAccessible::State changed;
     changed.expanded = changed.collapsed = true;
-    QAccessibleStateChangeEvent event(&tree, changed);
-    event.setChild(static_cast<int>(tree.Rows().RowOf(node)));
-    QAccessible::updateAccessibility(&event);
+    QAccessibleStateChangeEvent event(this, changed);
+    event.setChild(static_cast<int>(rows_.RowOf(node)));
+    SendAccessible(event);
 }
+
+void FlyTree::SendAccessible(QAccessibleEvent& event) { QAccessible::updateAccessibility(&event); }
 
 }  // namespace folioscope

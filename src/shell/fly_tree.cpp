@@ -181,7 +181,7 @@ void FlyTree::Select(std::uint32_t node)
     BringIntoView(node);
     viewport()->update();
     for (auto folder = closed.rbegin(); folder != closed.rend(); ++folder) TellFolder(*folder, true);
-    TellAccessibleFocus(*this);
+    TellFocus();
 }
 
 void FlyTree::SelectByUser(std::uint32_t node)
@@ -194,7 +194,7 @@ void FlyTree::SelectByUser(std::uint32_t node)
 
 void FlyTree::TellFolder(std::uint32_t node, bool open)
 {
-    TellAccessibleState(*this, node);
+    TellState(node);
     if (open)
         Q_EMIT expanded(node);
     else
@@ -341,7 +341,7 @@ void FlyTree::focusInEvent(QFocusEvent* event)
 {
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
-    TellAccessibleFocus(*this);
+    TellFocus();
 }
 
 void FlyTree::focusOutEvent(QFocusEvent* event)

@@ -17,11 +17,13 @@
 #include "shell/row_painter.h"
 #include "shell/visible_rows.h"
 
+class QAccessibleEvent;
+
 namespace folioscope {
 
 // The view of a document's tree. It keeps two bits a node, so that a tree of millions of nodes opens and closes at
 // once. Nodes are told by lngNodeCode; 0 is no node. What is added to the tree is seen from the next Refresh on.
-class FlyTree final : public QAbstractScrollArea {
+class FlyTree : public QAbstractScrollArea {
     Q_OBJECT
     Q_PROPERTY(QString ItemSeparator READ ItemSeparator WRITE SetItemSeparator)
 
@@ -86,9 +88,11 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     bool viewportEvent(QEvent* event) override;
+    virtual void SendAccessible(QAccessibleEvent& event);  // to whoever reads the screen
 
 private:
     struct Shown {
@@ -102,6 +106,8 @@ private:
     void BringIntoView(std::uint32_t node);
     void RowsChanged(std::uint32_t top);
     void Hover(const QPoint& position);
+    void TellFocus();
+    void TellState(std::uint32_t node);
     void TellFolder(std::uint32_t node, bool open);
     bool TakeKey(int key);
     bool TakeMove(int key);

@@ -1,6 +1,6 @@
 // What mouse and keyboard do in the tree.
 
-#include <QHoverEvent>
+#include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -33,6 +33,9 @@ void FlyTree::mousePressEvent(QMouseEvent* event)
         SelectByUser(node);
     Hover(at);
 }
+
+// A click ends here and not in the window behind.
+void FlyTree::mouseReleaseEvent(QMouseEvent* event) { event->accept(); }
 
 // The second click on an arrow is a click of its own.
 void FlyTree::mouseDoubleClickEvent(QMouseEvent* event)

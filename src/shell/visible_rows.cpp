@@ -30,7 +30,7 @@ bool VisibleRows::TakeOver()
 
 std::uint32_t VisibleRows::End(std::uint32_t node) const
 {
-    return node < known_ ? std::min(nodes_->End(node), known_) : 0;
+    return node != 0 && node < known_ ? std::min(nodes_->End(node), known_) : 0;
 }
 
 std::uint32_t VisibleRows::NodeAt(std::uint32_t row) const
