@@ -20,7 +20,7 @@ constexpr int kPadding = 2;  // above and below
 constexpr int kMinIndent = 16;
 constexpr qsizetype kPiece = 256;  // characters
 constexpr std::size_t kTextsKept = 1024;
-constexpr double kHoverShare = 0.12, kArrowShare = 0.62;
+constexpr double kHoverShare = 0.12, kPaleShare = 0.28, kArrowShare = 0.62;
 
 QColor Blend(const QColor& from, const QColor& to, double share)
 {
@@ -97,21 +97,16 @@ int RowPainter::RowRight(std::uint32_t depth, const RowText& text) const
     return TextLeft(depth, text.red) + text.width + kGap + kMargin;
 }
 
+// A selection without the keyboard is paler, and leaves the text its colours.
 RowPainter::Colors RowPainter::ColorsOf(const RowLook& look, const RowText& text) const
 {
-    const auto group = look.focused ? QPalette::Active : QPalette::Inactive;
-    const QColor base = palette_.color(group, QPalette::Base), highlight = palette_.color(group, QPalette::Highlight);
-    Colors colors;
-    colors.selected = look.selected;
-    if (look.selected) {
-        colors.ground = highlight;
-        colors.text = ReadableOn(highlight, palette_.color(group, QPalette::HighlightedText));
-        return colors;
-    }
-    colors.ground =
-        look.hovered ? Blend(base, palette_.color(QPalette::Active, QPalette::Highlight), kHoverShare) : base;
-    colors.text = ReadableOn(colors.ground, text.color.isValid() ? text.color : palette_.color(group, QPalette::Text));
-    return colors;
+    const QColor base = palette_.color(QPalette::Base),
+                 highlight = palette_.color(QPalette::Active, QPalette::Highlight);
+    if (look.selected && look.focused)
+        return {highlight, palette_.color(QPalette::Active, QPalette::HighlightedText), true};
+    const double share = look.selected ? kPaleShare : look.hovered ? kHoverShare : 0;
+    const QColor ground = Blend(base, highlight, share);
+    return {ground, ReadableOn(ground, text.color.isValid() ? text.color : palette_.color(QPalette::Text)), false};
 }
 
 void RowPainter::Paint(QPainter& painter, const QRect& row, int offset, const RowLook& look, const RowText& text) const
@@ -147,7 +142,7 @@ void RowPainter::Paint(QPainter& painter, const QRect& row, int offset, const Ro
 
 void RowPainter::PaintArrow(QPainter& painter, const QRect& cell, const RowLook& look, const Colors& colors) const
 {
-    const QColor text = look.selected ? colors.text : palette_.color(QPalette::Text);
+    const QColor text = colors.onHighlight ? colors.text : palette_.color(QPalette::Text);
     const double reach = iconSize_ / 5.0;
     const QPointF middle = QRectF(cell).center();
     QPainterPath path;
@@ -179,7 +174,8 @@ void RowPainter::PaintIcon(QPainter& painter, const QRect& cell, const RowLook& 
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Blend(colors.ground, palette_.color(QPalette::Text), colors.selected ? 1.0 : 0.5), 1));
+    painter.setPen(
+        QPen(colors.onHighlight ? colors.text : Blend(colors.ground, palette_.color(QPalette::Text), 0.5), 1));
     painter.drawRoundedRect(QRectF(cell).adjusted(3.5, 2.5, -3.5, -2.5), 1.5, 1.5);
     painter.restore();
 }

@@ -67,8 +67,8 @@ public:
 
 private:
     struct Colors {
-        QColor ground, text, highlighted;
-        bool selected = false;
+        QColor ground, text;
+        bool onHighlight;
     };
 
     int TextLeft(std::uint32_t depth, bool red) const;
