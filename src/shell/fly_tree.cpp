@@ -1,5 +1,6 @@
 #include "shell/fly_tree.h"
 
+#include <QCursor>
 #include <QEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -238,20 +239,18 @@ void FlyTree::Toggle(std::uint32_t node)
 bool FlyTree::ExpandAll(const std::function<bool()>& giveWay)
 {
     const QPointer<FlyTree> self(this);
-    const std::uint32_t tree = trees_;
-    bool goesOn = true;
-    for (std::uint32_t node = NodeStore::kRoot; goesOn && node < rows_.Known(); node += kNodesAtOnce) {
+    const std::uint32_t tree = trees_, step = giveWay ? kNodesAtOnce : rows_.Known();
+    for (std::uint32_t node = NodeStore::kRoot; node < rows_.Known(); node += step) {
         const std::uint32_t top = Top();
-        rows_.ExpandRange(node, node + kNodesAtOnce);
-        const bool last = rows_.Known() - node <= kNodesAtOnce;
-        if (!giveWay && !last) continue;
+        const bool seen = viewport()->rect().intersects(RowRect(selected_));
+        rows_.ExpandRange(node, node + step);
         RowsChanged(top);
-        if (last) break;
-        goesOn = giveWay();
-        if (!self || trees_ != tree) return false;
+        if (seen) BringIntoView(selected_);
+        if (rows_.Known() - node <= step) break;
+        const bool goesOn = giveWay();
+        if (!self || trees_ != tree || !goesOn) return false;
     }
-    if (selected_ != 0) BringIntoView(selected_);
-    return goesOn;
+    return true;
 }
 
 void FlyTree::FullCollapse()
@@ -354,6 +353,8 @@ void FlyTree::scrollContentsBy(int /*dx*/, int dy)
 {
     if (dy != 0) TakeWidths();
     viewport()->update();
+    // The rows move, and the pointer doesn't.
+    Hover(viewport()->underMouse() ? viewport()->mapFromGlobal(QCursor::pos()) : QPoint(-1, -1));
 }
 
 }  // namespace folioscope
