@@ -20,6 +20,7 @@ namespace folioscope {
 namespace {
 
 constexpr std::uint32_t kNodesAtOnce = 16'384;  // that ExpandAll opens before it gives way
+constexpr int kBeginning = 200;                 // pixels of a row that are brought into view
 
 }  // namespace
 
@@ -160,10 +161,10 @@ void FlyTree::BringIntoView(std::uint32_t node)
     TakeWidths();
     QScrollBar* columns = horizontalScrollBar();
     const int width = viewport()->width();
-    // The beginning of the row is what must be seen, and as much of its text as fits.
+    // The beginning of the row must be seen; for the rest of a long text the view doesn't move under the pointer.
     const int most = std::max(0, left - painter_.ArrowWidth());
-    const int least = std::min(most, right - width);
-    if (columns->value() > most || columns->value() < least) columns->setValue(columns->value() > most ? most : least);
+    const int least = std::min(most, std::min(right, left + kBeginning) - width);
+    columns->setValue(std::clamp(columns->value(), least, most));
 }
 
 // Operations ------------------------------------------------------------------------------------------------------
@@ -223,6 +224,7 @@ void FlyTree::Collapse(std::uint32_t node)
 {
     const std::uint32_t top = Top(), end = rows_.End(node);
     if (!rows_.Collapse(node)) return;
+    widest_ = std::min(widest_, horizontalScrollBar()->value() + viewport()->width());
     RowsChanged(top > node && top < end ? node : top);
     TellFolder(node, false);
     if (selected_ > node && selected_ < end) SelectByUser(node);

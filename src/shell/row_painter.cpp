@@ -18,9 +18,10 @@ constexpr int kMargin = 2;   // left of the first arrow, right of the longest te
 constexpr int kGap = 5;      // between icon, mark and text
 constexpr int kPadding = 2;  // above and below
 constexpr int kMinIndent = 16;
-constexpr qsizetype kPiece = 256;  // characters
+constexpr std::uint32_t kDeepest = 1'000'000;  // rows below are indented no further
+constexpr qsizetype kPiece = 256;              // characters
 constexpr std::size_t kTextsKept = 1024;
-constexpr double kHoverShare = 0.12, kPaleShare = 0.28, kArrowShare = 0.62;
+constexpr double kHoverShare = 0.12, kPaleShare = 0.34, kArrowShare = 0.62;
 
 QColor Blend(const QColor& from, const QColor& to, double share)
 {
@@ -85,7 +86,10 @@ const RowText& RowPainter::TextOf(const StructureTree& tree, std::uint32_t node)
     return row;
 }
 
-int RowPainter::ArrowLeft(std::uint32_t depth) const { return kMargin + static_cast<int>(depth) * indent_; }
+int RowPainter::ArrowLeft(std::uint32_t depth) const
+{
+    return kMargin + static_cast<int>(std::min(depth, kDeepest)) * indent_;
+}
 
 int RowPainter::TextLeft(std::uint32_t depth, bool red) const
 {
@@ -113,6 +117,7 @@ void RowPainter::Paint(QPainter& painter, const QRect& row, int offset, const Ro
 {
     const Colors colors = ColorsOf(look, text);
     if (look.selected || look.hovered) painter.fillRect(row, colors.ground);
+    if (look.selected && look.focused) PaintFocus(painter, row, colors);
     int x = row.left() + ArrowLeft(look.depth) - offset;
     if (look.expandable) PaintArrow(painter, {x, row.top(), indent_, row.height()}, look, colors);
     x += indent_;
@@ -131,7 +136,10 @@ void RowPainter::Paint(QPainter& painter, const QRect& row, int offset, const Ro
                              Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip, piece);
         x += width;
     }
-    if (!look.selected || !look.focused) return;
+}
+
+void RowPainter::PaintFocus(QPainter& painter, const QRect& row, const Colors& colors) const
+{
     QStyleOptionFocusRect focus;
     focus.initFrom(view_);
     focus.rect = row;
@@ -158,7 +166,7 @@ void RowPainter::PaintArrow(QPainter& painter, const QRect& cell, const RowLook&
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    const QColor color = look.arrowHovered ? text : Blend(colors.ground, text, kArrowShare);
+    const QColor color = look.arrowHovered ? text : Blend(colors.ground, text, colors.onHighlight ? 1 : kArrowShare);
     painter.setPen(QPen(color, look.arrowHovered ? 2.0 : 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(path);
     painter.restore();

@@ -73,6 +73,7 @@ private:
 
     int TextLeft(std::uint32_t depth, bool red) const;
     Colors ColorsOf(const RowLook& look, const RowText& text) const;
+    void PaintFocus(QPainter& painter, const QRect& row, const Colors& colors) const;
     void PaintArrow(QPainter& painter, const QRect& cell, const RowLook& look, const Colors& colors) const;
     void PaintIcon(QPainter& painter, const QRect& cell, const RowLook& look, const Colors& colors) const;
     void PaintMark(QPainter& painter, const QRect& cell, const Colors& colors) const;

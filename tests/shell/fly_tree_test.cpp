@@ -398,6 +398,28 @@ private Q_SLOTS:
         QVERIFY(drawn);
     }
 
+    void doesNotMoveSidewaysForALongText()
+    {
+        GrownTree tree;
+        const std::uint32_t leaf = tree.Leaf(std::string(3000, 'M'));
+        View view(tree.tree);
+        view.Select(leaf);
+        QCOMPARE(view.horizontalScrollBar()->value(), 0);
+    }
+
+    void needsNoMoreRoomThanItsRowsOnceADeepFolderIsClosed()
+    {
+        GrownTree tree;
+        std::uint32_t deepest = 0;
+        for (int i = 0; i < 200; ++i) deepest = tree.Open();
+        View view(tree.tree);
+        view.Select(deepest);
+        QVERIFY(view.horizontalScrollBar()->maximum() > 1000);
+        view.Select(kRoot);
+        view.Collapse(kRoot);
+        QCOMPARE(view.horizontalScrollBar()->maximum(), 0);
+    }
+
     void showsTheImagesOfOpenAndClosedFolders()
     {
         Pages tree;
