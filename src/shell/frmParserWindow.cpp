@@ -95,7 +95,8 @@ void frmParserWindow::SetTexts()
 bool frmParserWindow::ProcessAFPFile(const QString& path)
 {
     path_ = path;
-    document_ = std::make_unique<Document>(state_.settings, state_.numbers, state_.messages, *this);
+    document_ = std::make_unique<Document>(state_.settings, state_.numbers, state_.messages,
+                                           static_cast<RunHost&>(*this));
     flyTreeStructure_->SetTree(&document_->Tree());
     const bool walked = document_->ProcessAFPFile(path.toStdString());
     Q_EMIT StateChanged();

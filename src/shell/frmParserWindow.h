@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QFrame>
 #include <QWidget>
 
 #include <memory>

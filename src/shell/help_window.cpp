@@ -2,8 +2,9 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QTextBrowser>
 #include <QUrl>
+
+#include "shell/help_browser.h"
 
 namespace folioscope {
 
@@ -36,7 +37,7 @@ void ShowHelp(Language language, QWidget* parent)
 {
     const QString file = HelpFile(language);
     if (file.isEmpty()) return;
-    auto* const browser = new QTextBrowser(parent);
+    auto* const browser = new HelpBrowser(parent);
     browser->setWindowFlag(Qt::Window);
     browser->setAttribute(Qt::WA_DeleteOnClose);
     browser->setObjectName("helpWindow");
