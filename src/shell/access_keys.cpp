@@ -9,11 +9,18 @@ namespace folioscope {
 
 namespace {
 
-QChar KeyOf(const QString& text)
+// Where the sign of the access key stands, or -1.
+qsizetype PlaceOfSign(const QString& text)
 {
     for (qsizetype at = text.indexOf(QLatin1Char('&')); at >= 0; at = text.indexOf(QLatin1Char('&'), at + 2))
-        if (at + 1 < text.size() && text[at + 1] != QLatin1Char('&')) return text[at + 1].toUpper();
-    return {};
+        if (at + 1 < text.size() && text[at + 1] != QLatin1Char('&')) return at;
+    return -1;
+}
+
+QChar KeyOf(const QString& text)
+{
+    const qsizetype at = PlaceOfSign(text);
+    return at < 0 ? QChar() : text[at + 1].toUpper();
 }
 
 bool IsPlainLetter(QChar c) { return c.unicode() < 128 && c.isLetter(); }
@@ -33,7 +40,12 @@ qsizetype PlaceOfKey(const QString& text, const QSet<QChar>& taken)
 template <class Items> void GiveKeys(const Items& items)
 {
     QSet<QChar> taken;
-    for (auto* const item : items) taken.insert(KeyOf(item->text()));
+    for (auto* const item : items) {
+        const QString text = item->text();
+        const QChar key = KeyOf(text);
+        if (!key.isNull() && taken.contains(key)) item->setText(QString(text).remove(PlaceOfSign(text), 1));
+        taken.insert(key);
+    }
     for (auto* const item : items) {
         QString text = item->text();
         if (!KeyOf(text).isNull()) continue;

@@ -5,7 +5,8 @@ class QWidget;
 
 namespace folioscope {
 
-// Gives each button of a window that has no access key one that no other has: the first letter of a word if it can be.
+// Gives each button of a window that has no access key, or one that another has already, a key of its own: the first
+// letter of a word if it can be.
 // The texts must stand; a later text takes the key away.
 void GiveAccessKeys(QWidget& window);
 

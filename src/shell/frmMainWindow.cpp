@@ -17,6 +17,7 @@
 
 #include "base/settings_store.h"
 #include "base/text.h"
+#include "shell/access_keys.h"
 #include "shell/dropped_files.h"
 #include "shell/frmFind.h"
 #include "shell/frmInformation.h"
@@ -25,8 +26,8 @@
 #include "shell/help_window.h"
 #include "shell/icons.h"
 #include "shell/main_commands.h"
-#include "shell/website.h"
 #include "shell/qt_text.h"
+#include "shell/website.h"
 
 namespace folioscope {
 
@@ -72,7 +73,13 @@ frmMainWindow::frmMainWindow(ShellState& state, QWidget* parent)
     UpdateCommands();
 }
 
-frmMainWindow::~frmMainWindow() = default;
+// The documents go first, while there is somebody to hear of it no more.
+frmMainWindow::~frmMainWindow()
+{
+    disconnect(area_, nullptr, this, nullptr);
+    for (QMdiSubWindow* const window : area_->subWindowList()) disconnect(window, nullptr, this, nullptr);
+    delete area_;
+}
 
 // ---------------------------------------------------------------------------------------------------------- commands
 
@@ -123,6 +130,7 @@ void frmMainWindow::SetTexts()
         commands_[i]->setText(ToQt(texts, rows[i].text));
         commands_[i]->setToolTip(ToQt(texts, rows[i].text));
     }
+    for (QMenu* const menu : menus_) GiveAccessKeys(*menu);
     tlbMenu_->setWindowTitle(ToQt(texts, U("Toolbar")));
     messages_->SetTexts(texts);
 }
@@ -367,7 +375,9 @@ void frmMainWindow::closeEvent(QCloseEvent* event)
     area_->closeAllSubWindows();
     if (ActiveDocument() != nullptr && ActiveDocument()->IsBusy()) return event->ignore();
     const int state = isMinimized() ? 1 : isMaximized() ? 2 : 0;
-    const auto write = [&](const char* name, double value) { state_.store.SetRegistryValue(kSettingsKey, name, value); };
+    const auto write = [&](const char* name, double value) {
+        state_.store.SetRegistryValue(kSettingsKey, name, value);
+    };
     write("WindowState", state);
     if (state == 0) {
         write("WindowTop", pos().y() * kTwips);

@@ -19,8 +19,8 @@ namespace folioscope {
 
 namespace {
 
-constexpr int kSmallest = 601;             // pixels: narrower ones are refused
-constexpr int kShowEvery = 50;             // milliseconds between two looks at what an operation has done
+constexpr int kSmallest = 601;  // pixels: narrower ones are refused
+constexpr int kShowEvery = 50;  // milliseconds between two looks at what an operation has done
 
 template <class Control> Control* Named(Control* control, const char* name)
 {
@@ -95,8 +95,8 @@ void frmParserWindow::SetTexts()
 bool frmParserWindow::ProcessAFPFile(const QString& path)
 {
     path_ = path;
-    document_ = std::make_unique<Document>(state_.settings, state_.numbers, state_.messages,
-                                           static_cast<RunHost&>(*this));
+    document_ =
+        std::make_unique<Document>(state_.settings, state_.numbers, state_.messages, static_cast<RunHost&>(*this));
     flyTreeStructure_->SetTree(&document_->Tree());
     const bool walked = document_->ProcessAFPFile(path.toStdString());
     Q_EMIT StateChanged();
@@ -267,10 +267,7 @@ void frmParserWindow::ExpandAll()
 
 void frmParserWindow::FullCollapse() { flyTreeStructure_->FullCollapse(); }
 
-std::string frmParserWindow::SelectedPath() const
-{
-    return flyTreeStructure_->FullPath(flyTreeStructure_->Selected());
-}
+std::string frmParserWindow::SelectedPath() const { return flyTreeStructure_->FullPath(flyTreeStructure_->Selected()); }
 
 void frmParserWindow::SelectPath(const std::string& path)
 {

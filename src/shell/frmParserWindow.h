@@ -20,8 +20,8 @@ class Divider;
 class FlyTree;
 class PropertyPane;
 
-// One AFP file: its tree, its texts, and the places of the hex pane and of the preview. It forwards to a Document, which
-// has all there is to know of the file.
+// One AFP file: its tree, its texts, and the places of the hex pane and of the preview. It forwards to a Document,
+// which has all there is to know of the file.
 class frmParserWindow final : public QWidget, private RunHost {
     Q_OBJECT
 

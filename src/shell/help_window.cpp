@@ -26,7 +26,8 @@ const char* FileName(Language language)
 QString HelpFile(Language language)
 {
     for (const QString folder : kFolders) {
-        const QString base = folder.startsWith('/') && !folder.startsWith("/..") ? QString() : QCoreApplication::applicationDirPath();
+        const QString base =
+            folder.startsWith('/') && !folder.startsWith("/..") ? QString() : QCoreApplication::applicationDirPath();
         const QFileInfo file(base + folder + '/' + FileName(language));
         if (file.isFile()) return file.canonicalFilePath();
     }

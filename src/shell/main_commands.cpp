@@ -12,7 +12,10 @@ using Main = frmMainWindow;
 
 constexpr int kCtrl = static_cast<int>(Qt::ControlModifier), kShift = static_cast<int>(Qt::ShiftModifier);
 
-constexpr MainCommand Separator(Menu menu) { return {menu, nullptr, nullptr, nullptr, Label::None, When::Always, nullptr}; }
+constexpr MainCommand Separator(Menu menu)
+{
+    return {menu, nullptr, nullptr, nullptr, Label::None, When::Always, nullptr};
+}
 
 // clang-format off
 constexpr MainCommand kCommands[] = {

@@ -24,7 +24,7 @@ enum class Menu : std::uint8_t { None, File, Edit, Extras, Windows, Help };
 // One command: its item in a menu, its button in the toolbar, or both. A row without an action is a separator.
 struct MainCommand {
     Menu menu;
-    const char* item;    // object names; null: it has none
+    const char* item;  // object names; null: it has none
     const char* button;
     const char* icon;
     Label text;
