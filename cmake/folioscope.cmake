@@ -22,8 +22,6 @@ function(folioscope_test name)
     target_link_libraries(${target} PRIVATE folioscope_${used})
   endforeach()
   target_link_libraries(${target} PRIVATE folioscope_flags GTest::gtest_main)
-  # What every test needs, read once: most of a test's time to build goes there.
-  target_precompile_headers(${target} PRIVATE <gtest/gtest.h> <string> <string_view> <vector>)
   target_compile_definitions(${target} PRIVATE FOLIOSCOPE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 300)
 endfunction()
