@@ -24,6 +24,36 @@ char32_t TakeCharacter(std::string_view& text)
     return wellFormed ? character : kNoCharacter;
 }
 
+// Small letters whose capitals stand at one distance, or each behind its capital.
+struct Capitals {
+    char32_t first, last;
+    std::int32_t distance;  // 0: every second character is the capital of the one behind it
+};
+// clang-format off
+constexpr Capitals kCapitals[] = {
+    {0xE0,   0xF6,   -0x20}, {0xF8, 0xFE, -0x20},      // Latin-1
+    {0xFF,   0xFF,   0x79},
+    {0x101,  0x12F,  0}, {0x133, 0x137, 0},            // Latin Extended-A, in pairs
+    {0x13A,  0x148,  0}, {0x14B, 0x177, 0}, {0x17A, 0x17E, 0},
+    {0x192,  0x192,  -1},
+    {0x3AC,  0x3AC,  -0x26}, {0x3AD, 0x3AF, -0x25},    // Greek
+    {0x3B1,  0x3C1,  -0x20}, {0x3C3, 0x3CB, -0x20},
+    {0x3CC,  0x3CC,  -0x40}, {0x3CD, 0x3CE, -0x3F},
+    {0x430,  0x44F,  -0x20}, {0x450, 0x45F, -0x50},    // Cyrillic
+    {0x461,  0x481,  0}, {0x48B, 0x4BF, 0},
+};
+// clang-format on
+
+char32_t CapitalOf(char32_t character)
+{
+    for (const auto& [first, last, distance] : kCapitals) {
+        if (character < first || character > last) continue;
+        if (distance != 0) return static_cast<char32_t>(static_cast<std::int32_t>(character) + distance);
+        return (character - first) % 2 == 0 ? character - 1 : character;
+    }
+    return character;
+}
+
 // What has no picture and would still act on a terminal or break a line is U+FFFD.
 char32_t PictureOf(char32_t character)
 {
@@ -90,6 +120,23 @@ std::string_view TrimBlanks(std::string_view text)
     const auto first = text.find_first_not_of(' ');
     if (first == std::string_view::npos) return {};
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+void AppendUpperCase(std::string& out, std::string_view text)
+{
+    while (!text.empty()) {
+        std::size_t plain = 0;
+        while (plain < text.size() && static_cast<unsigned char>(text[plain]) < 0x80) ++plain;
+        for (const char c : text.substr(0, plain)) out += c >= 'a' && c <= 'z' ? static_cast<char>(c - 0x20) : c;
+        text.remove_prefix(plain);
+        if (text.empty()) return;
+        const std::string_view rest = text;
+        const char32_t character = TakeCharacter(text);
+        if (character == kNoCharacter)
+            out += rest.substr(0, rest.size() - text.size());
+        else
+            AppendUtf8(out, CapitalOf(character));
+    }
 }
 
 void ChangeString(std::string& text, std::string_view what, std::string_view with)

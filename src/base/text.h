@@ -19,6 +19,10 @@ std::size_t Utf16Length(std::string_view text);
 // Takes blanks (U+0020 only) off both ends.
 std::string_view TrimBlanks(std::string_view text);
 
+// Appends a text in capitals: letters of the Latin, Greek and Cyrillic alphabets that have one capital. Bytes that
+// aren't part of well-formed UTF-8 stay as they are.
+void AppendUpperCase(std::string& out, std::string_view text);
+
 // Replaces the first occurrence of `what`, which is how placeholders are filled.
 void ChangeString(std::string& text, std::string_view what, std::string_view with);
 

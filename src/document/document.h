@@ -41,6 +41,20 @@ struct DumpResult {
     bool Whole() const { return !input && !output && !cancelled; }
 };
 
+// What is searched for, in any case.
+struct FindTerm {
+    std::string strSearch;
+    bool bolNOPOnly = false, bolTLEOnly = false;  // both: records of either kind
+};
+
+enum class FindOutcome : std::uint8_t { Found, NoMore, Cancelled, ReadFailed };
+
+struct FindResult {
+    FindOutcome outcome = FindOutcome::NoMore;
+    std::uint32_t node = 0;  // that was found, or at which the search was stopped
+    FileFailure failure;
+};
+
 // One open file: the run that walks it once, its tree, the texts of its nodes, its dump. Node numbers are lngNodeCode:
 // they count from 1 in tree order. One thread; the user acts only in RunHost::GiveWay.
 class Document final : private TreeListener {
@@ -75,6 +89,10 @@ public:
     // The property text with its markup. Of a deferred record that was read before it is made again if need be.
     std::string GetNodeContents_strContent(std::uint32_t lngNodeCode);
 
+    // The next node behind `selected` in tree order whose text, a slash and its property text with all markup hold the
+    // term. Bodies that were left for later are read on the way. The user can stop the search where one is read.
+    FindResult FindNext(std::uint32_t selected, const FindTerm& term);
+
     // Writes the readable text of all nodes, reading what was deferred. Its memory doesn't grow with the dump.
     DumpResult WriteDump(DumpSink& sink, DumpEncoding encoding);
     // The same into a file, with the message boxes that a user expects.
@@ -100,6 +118,7 @@ private:
     void FinishRun();
     FileFailure ReadBody(std::uint32_t node, std::string& body);
     void AnalyzeBody(std::uint32_t node);
+    FindResult Search(std::uint32_t selected, const FindTerm& term);
     void KeepBody(std::uint32_t node, const std::string& body);
 
     Settings settings_;

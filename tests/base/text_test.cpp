@@ -200,5 +200,32 @@ TEST(Utf16Length, CountsEachCharacterAtEachPlace)
     EXPECT_EQ(Utf16Length(all), 500u);
 }
 
+TEST(AppendUpperCase, KnowsTheLettersOfTheAlphabets)
+{
+    const auto upper = [](std::string_view text) {
+        std::string out = "+";
+        AppendUpperCase(out, text);
+        return out;
+    };
+    EXPECT_EQ(upper(""), "+");
+    EXPECT_EQ(upper("azAZ09 {|}~`@[^"), "+AZAZ09 {|}~`@[^");
+    EXPECT_EQ(upper("aàöøþÿ÷ßb"), "+AÀÖØÞŸ÷ßB");
+    EXPECT_EQ(upper("āăįĳĵķĺňŋŷźżžƒœš"), "+ĀĂĮĲĴĶĹŇŊŶŹŻŽƑŒŠ");
+    EXPECT_EQ(upper("ĀĸŉƑ"), "+ĀĸŉƑ");
+    EXPECT_EQ(upper("άέήίαρςστόύώ"), "+ΆΈΉΊΑΡςΣΤΌΎΏ");
+    EXPECT_EQ(upper("аяѐџѡҋ"), "+АЯЀЏѠҊ");
+    EXPECT_EQ(upper("日本 𝒳 €"), "+日本 𝒳 €");
+}
+
+TEST(AppendUpperCase, LeavesBadBytesAsTheyAre)
+{
+    std::string out;
+    AppendUpperCase(out, "a\xC3 b\xFF\xE2\x82");
+    EXPECT_EQ(out, "A\xC3 B\xFF\xE2\x82");
+    out.clear();
+    AppendUpperCase(out, "\xEF\xBF\xBD");
+    EXPECT_EQ(out, "\xEF\xBF\xBD");
+}
+
 }  // namespace
 }  // namespace folioscope

@@ -1,0 +1,67 @@
+// Find: a term in the texts of the nodes, from one node on.
+
+#include "base/text.h"
+#include "document/document.h"
+
+namespace folioscope {
+
+namespace {
+
+// The test is on the text with its tags: a node that is marked red begins with one.
+bool Accepts(const FindTerm& term, std::string_view nodeText)
+{
+    if (!term.bolNOPOnly && !term.bolTLEOnly) return true;
+    return (term.bolNOPOnly && nodeText.starts_with("NOP")) || (term.bolTLEOnly && nodeText.starts_with("TLE"));
+}
+
+}  // namespace
+
+FindResult Document::FindNext(std::uint32_t selected, const FindTerm& term)
+{
+    FindResult result;
+    bolOperationInterupted_ = false;
+    result.failure = RedirectOpenAFPFileRandom();
+    if (result.failure) {
+        result.outcome = FindOutcome::ReadFailed;
+        return result;
+    }
+    host_.OperationStarts(tree_->Nodes().Size());
+    result = Search(selected, term);
+    RedirectCloseAFPFile();
+    host_.OperationEnds();
+    if (bolOperationInterupted_ && result.outcome != FindOutcome::ReadFailed) result.outcome = FindOutcome::Cancelled;
+    bolOperationInterupted_ = false;
+    return result;
+}
+
+FindResult Document::Search(std::uint32_t selected, const FindTerm& term)
+{
+    std::string wanted, nodeText, searched;
+    AppendUpperCase(wanted, term.strSearch);
+    FindResult result;
+    for (result.node = selected + 1; result.node < tree_->Nodes().Size(); ++result.node) {
+        if (bolOperationInterupted_) return result;
+        if (GetNodeContents_lngLength(result.node) >= 1 && GetNodeContents_bolUnread(result.node)) {
+            result.failure = LookupMissingData(result.node);
+            if (result.failure) {
+                result.outcome = FindOutcome::ReadFailed;
+                return result;
+            }
+            host_.Progress(result.node);
+            host_.GiveWay();
+        }
+        nodeText.clear();
+        tree_->AppendNodeText(nodeText, result.node);
+        searched.clear();
+        AppendUpperCase(searched, nodeText);
+        searched += '/';
+        AppendUpperCase(searched, GetNodeContents_strContent(result.node));
+        if (searched.find(wanted) == std::string::npos || !Accepts(term, nodeText)) continue;
+        result.outcome = FindOutcome::Found;
+        return result;
+    }
+    result.node = 0;
+    return result;
+}
+
+}  // namespace folioscope

@@ -1,0 +1,406 @@
+#include "shell/frmMainWindow.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QProcess>
+#include <QScreen>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "base/settings_store.h"
+#include "base/text.h"
+#include "shell/access_keys.h"
+#include "shell/dropped_files.h"
+#include "shell/frmFind.h"
+#include "shell/frmInformation.h"
+#include "shell/frmMessages.h"
+#include "shell/frmParserWindow.h"
+#include "shell/help_window.h"
+#include "shell/icons.h"
+#include "shell/main_commands.h"
+#include "shell/qt_text.h"
+#include "shell/website.h"
+
+namespace folioscope {
+
+namespace {
+
+constexpr int kTwips = 15;  // a pixel
+
+struct MenuRow {
+    Menu menu;
+    const char* name;
+    Label text;
+};
+// clang-format off
+constexpr MenuRow kMenus[] = {
+    {Menu::File,    "mnuFile",    U("&File")},
+    {Menu::Edit,    "mnuEdit",    U("&Edit")},
+    {Menu::Extras,  "mnuExtras",  U("E&xtras")},
+    {Menu::Windows, "mnuWindows", U("&Windows")},
+    {Menu::Help,    "mnuHelp",    U("&Help")},
+};
+// clang-format on
+
+}  // namespace
+
+frmMainWindow::frmMainWindow(ShellState& state, QWidget* parent)
+    : QMainWindow(parent), state_(state), area_(new QMdiArea(this)), tlbMenu_(new QToolBar(this)),
+      messages_(std::make_unique<frmMessages>(state.messages, state.settings, state.InterfaceTexts()))
+{
+    setObjectName("frmMainWindow");
+    setWindowTitle("Folioscope");
+    setAcceptDrops(true);
+    setCentralWidget(area_);
+    area_->setObjectName("mdiArea");
+    tlbMenu_->setObjectName("tlbMenu");
+    tlbMenu_->setMovable(false);
+    tlbMenu_->setContextMenuPolicy(Qt::PreventContextMenu);
+    addToolBar(tlbMenu_);
+    connect(area_, &QMdiArea::subWindowActivated, this, &frmMainWindow::UpdateCommands);
+    connect(messages_.get(), &frmMessages::MessagesArrived, this, &frmMainWindow::UpdateCommands);
+    MakeCommands();
+    SetTexts();
+    SetIcons();
+    UpdateCommands();
+}
+
+// The documents go first, while there is somebody to hear of it no more.
+frmMainWindow::~frmMainWindow()
+{
+    disconnect(area_, nullptr, this, nullptr);
+    for (QMdiSubWindow* const window : area_->subWindowList()) disconnect(window, nullptr, this, nullptr);
+    delete area_;
+}
+
+// ---------------------------------------------------------------------------------------------------------- commands
+
+void frmMainWindow::MakeCommands()
+{
+    for (const MenuRow& row : kMenus) {
+        menus_.push_back(menuBar()->addMenu(QString()));
+        menus_.back()->setObjectName(row.name);
+    }
+    for (const MainCommand& row : MainCommands()) {
+        QMenu* const menu = row.menu == Menu::None ? nullptr : menus_[static_cast<std::size_t>(row.menu) - 1];
+        const bool separator = row.item == nullptr && row.button == nullptr;
+        auto* const action = new QAction(this);
+        action->setSeparator(separator);
+        action->setObjectName(row.item != nullptr ? row.item : row.button);
+        if (row.key != 0) action->setShortcut(QKeySequence(row.key));
+        if (row.action != nullptr) connect(action, &QAction::triggered, this, [this, row] { (this->*row.action)(); });
+        if (menu != nullptr) menu->addAction(action);
+        if (row.button != nullptr || (separator && menu == nullptr)) tlbMenu_->addAction(action);
+        if (row.button != nullptr) tlbMenu_->widgetForAction(action)->setObjectName(row.button);
+        commands_.push_back(action);
+    }
+    MakeRecentFiles(*menus_.front());
+}
+
+// In front of the item that ends the program.
+void frmMainWindow::MakeRecentFiles(QMenu& menu)
+{
+    QAction* const exit = menu.actions().back();
+    mnuDivider10_ = menu.insertSeparator(exit);
+    mnuDivider10_->setObjectName("mnuDivider10");
+    for (std::size_t place = 0; place < RecentFiles::kPlaces; ++place) {
+        auto* const item = new QAction(this);
+        item->setObjectName("mnuFileListFile" + QString::number(place + 1));
+        connect(item, &QAction::triggered, this, [this, place] { ProcessFile(ToQt(state_.recentFiles[place])); });
+        menu.insertAction(mnuDivider10_, item);
+        mnuFileListFile_[place] = item;
+    }
+    ShowRecentFiles();
+}
+
+void frmMainWindow::SetTexts()
+{
+    const Labels texts = state_.InterfaceTexts();
+    for (std::size_t i = 0; i < std::size(kMenus); ++i) menus_[i]->setTitle(ToQt(texts, kMenus[i].text));
+    const auto rows = MainCommands();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        commands_[i]->setText(ToQt(texts, rows[i].text));
+        commands_[i]->setToolTip(ToQt(texts, rows[i].text));
+    }
+    for (QMenu* const menu : menus_) GiveAccessKeys(*menu);
+    tlbMenu_->setWindowTitle(ToQt(texts, U("Toolbar")));
+    messages_->SetTexts(texts);
+}
+
+void frmMainWindow::SetIcons()
+{
+    const auto rows = MainCommands();
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        if (rows[i].icon != nullptr) commands_[i]->setIcon(ToolbarIcon(rows[i].icon));
+}
+
+void frmMainWindow::UpdateCommands()
+{
+    const frmParserWindow* const document = ActiveDocument();
+    const bool busy = document != nullptr && document->IsBusy();
+    const auto enabled = [&](When when) {
+        switch (when) {
+        case When::Always: return true;
+        case When::Document: return document != nullptr;
+        case When::Idle: return document != nullptr && !busy;
+        case When::Busy: return busy;
+        case When::HasMessages: return document != nullptr && state_.messages.Size() > 0;
+        case When::Later: return false;
+        }
+        return false;
+    };
+    const auto rows = MainCommands();
+    for (std::size_t i = 0; i < rows.size(); ++i) commands_[i]->setEnabled(enabled(rows[i].when));
+}
+
+void frmMainWindow::ShowRecentFiles()
+{
+    for (std::size_t place = 0; place < RecentFiles::kPlaces; ++place) {
+        const std::string& path = state_.recentFiles[place];
+        mnuFileListFile_[place]->setText(ToQt(RecentFileCaption(place, path)));
+        mnuFileListFile_[place]->setVisible(!path.empty());
+    }
+    mnuDivider10_->setVisible(!state_.recentFiles[0].empty());
+}
+
+// -------------------------------------------------------------------------------------------------------------- files
+
+frmParserWindow* frmMainWindow::ActiveDocument() const
+{
+    const QMdiSubWindow* const window = area_->currentSubWindow();
+    return window != nullptr ? qobject_cast<frmParserWindow*>(window->widget()) : nullptr;
+}
+
+void frmMainWindow::ProcessFile(const QString& path)
+{
+    if (ActiveDocument() != nullptr)
+        StartProcess(path);
+    else
+        OpenHere(path);
+}
+
+void frmMainWindow::StartProcess(const QString& path)
+{
+    QStringList arguments = {"/fromFSV"};
+    const std::string& term = state_.find.strSearch;
+    if (!term.empty()) arguments << "/search=" + ToQt(std::string_view(term).substr(0, term.find(' ')));
+    if (!state_.strReloadNode.empty()) arguments << "/reload=" + ToQt(state_.strReloadNode);
+    arguments << path;
+    if (starter_ ? !starter_(arguments) : !QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments))
+        QMessageBox::critical(this, "Stop", QCoreApplication::applicationFilePath());
+}
+
+void frmMainWindow::OpenHere(const QString& path)
+{
+    auto* const document = new frmParserWindow(state_);
+    QMdiSubWindow* const window = area_->addSubWindow(document);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowTitle(path);
+    connect(document, &frmParserWindow::StateChanged, this, &frmMainWindow::UpdateCommands);
+    connect(document, &frmParserWindow::FilesDropped, this, &frmMainWindow::OpenFiles);
+    connect(window, &QObject::destroyed, this, [this] {
+        state_.messages.Clear();
+        UpdateCommands();
+    });
+    window->showMaximized();
+    state_.recentFiles.Add(QFileInfo(path).absoluteFilePath().toStdString());
+    ShowRecentFiles();
+    if (!document->ProcessAFPFile(path)) {
+        window->close();
+        return;
+    }
+    if (state_.bolExtract) document->SaveDump(path + ".txt");
+    if (state_.strReloadNode.empty()) return;
+    document->SelectPath(state_.strReloadNode);
+    state_.strReloadNode.clear();
+}
+
+void frmMainWindow::OpenFiles(const QStringList& paths)
+{
+    for (const QString& path : paths) ProcessFile(path);
+}
+
+void frmMainWindow::mnuFileOpen()
+{
+    const Labels texts = state_.InterfaceTexts();
+    const QString path = QFileDialog::getOpenFileName(this, ToQt(texts, U("Select AFP File ...")), QString(),
+                                                      ToQt(texts, U("All Files (*.*)|*.*")).section('|', 0, 0));
+    if (!path.isEmpty()) ProcessFile(path);
+}
+
+void frmMainWindow::mnuFileClose() { area_->closeActiveSubWindow(); }
+
+void frmMainWindow::mnuFileReload()
+{
+    frmParserWindow* const document = ActiveDocument();
+    if (document == nullptr) return;
+    state_.strReloadNode = document->SelectedPath();
+    ProcessFile(document->Path());
+    state_.strReloadNode.clear();
+    area_->closeActiveSubWindow();
+}
+
+void frmMainWindow::mnuFileSaveDump()
+{
+    frmParserWindow* const document = ActiveDocument();
+    if (document == nullptr) return;
+    const QString name = document->Path() + ".txt";
+    if (MayReplace(name)) document->SaveDump(name);
+}
+
+bool frmMainWindow::MayReplace(const QString& name)
+{
+    if (!QFileInfo::exists(name)) return true;
+    const Labels texts = state_.InterfaceTexts();
+    QString text = ToQt(texts, U("%1 already exists! \r\nDo you want to replace it?"));
+    text.replace("%1", name);
+    return QMessageBox::question(this, ToQt(texts, U("Question")), text) == QMessageBox::Yes;
+}
+
+void frmMainWindow::mnuFileSaveDumpAs()
+{
+    frmParserWindow* const document = ActiveDocument();
+    if (document == nullptr) return;
+    QFileDialog dialog(this, ToQt(state_.InterfaceTexts(), U("&Save text dump as ...")).remove('&'));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("txt");
+    dialog.setNameFilter("Text (*.txt)");
+    dialog.selectFile(document->Path() + ".txt");
+    if (dialog.exec() == QDialog::Accepted) document->SaveDump(dialog.selectedFiles().constFirst());
+}
+
+void frmMainWindow::mnuFileExit() { close(); }
+
+// ---------------------------------------------------------------------------------------------------------- searching
+
+void frmMainWindow::mnuEditFind()
+{
+    frmFind dialog(state_.InterfaceTexts(), state_.find, this);
+    dialog.exec();
+    state_.find = dialog.Term();
+    if (!state_.find.strSearch.empty()) mnuEditFindNext();
+}
+
+void frmMainWindow::mnuEditFindNext()
+{
+    if (state_.find.strSearch.empty()) return mnuEditFind();
+    if (frmParserWindow* const document = ActiveDocument()) document->FindNext();
+}
+
+void frmMainWindow::mnuEditTreeExpand()
+{
+    if (frmParserWindow* const document = ActiveDocument()) document->ExpandAll();
+}
+
+void frmMainWindow::mnuEditTreeCollapse()
+{
+    if (frmParserWindow* const document = ActiveDocument()) document->FullCollapse();
+}
+
+void frmMainWindow::tlbCancel()
+{
+    if (frmParserWindow* const document = ActiveDocument()) document->cmdCancel_Click();
+}
+
+// ------------------------------------------------------------------------------------------------------------ windows
+
+void frmMainWindow::mnuWindowsMessages() { messages_->ShowOnRequest(); }
+
+void frmMainWindow::mnuWindowsCascade() { area_->cascadeSubWindows(); }
+
+void frmMainWindow::mnuWindowsTileVertical() { Tile(Qt::Horizontal); }
+
+void frmMainWindow::mnuWindowsTileHorizontal() { Tile(Qt::Vertical); }
+
+// Side by side, or one below the other; each as large as it can be.
+void frmMainWindow::Tile(Qt::Orientation direction)
+{
+    const auto windows = area_->subWindowList();
+    if (windows.isEmpty()) return;
+    const int count = static_cast<int>(windows.size()), width = area_->width(), height = area_->height();
+    for (int i = 0; i < count; ++i) {
+        windows[i]->showNormal();
+        if (direction == Qt::Horizontal)
+            windows[i]->setGeometry(width * i / count, 0, width / count, height);
+        else
+            windows[i]->setGeometry(0, height * i / count, width, height / count);
+    }
+}
+
+void frmMainWindow::mnuWindowsCloseAll() { area_->closeAllSubWindows(); }
+
+void frmMainWindow::mnuHelpHelp() { ShowHelp(state_.settings.InterfaceLanguage(), this); }
+
+void frmMainWindow::mnuHelpWebsite()
+{
+    const Labels texts = state_.InterfaceTexts();
+    const QString address = ToQt(texts, U("http://www.marrowgate.example/"));
+    if (OpenWebsite(state_.store, address)) return;
+    QString text = ToQt(texts, U("No internet browser has been found for showing the following URL:\r\n%1"));
+    QMessageBox::critical(this, "Stop", text.replace("%1", address));
+}
+
+void frmMainWindow::mnuHelpAbout() { frmInformation(state_.InterfaceTexts(), this).exec(); }
+
+void frmMainWindow::PlaceWindow()
+{
+    const QSize screen = QGuiApplication::primaryScreen()->size() * kTwips;
+    const folioscope::Screen twips = {static_cast<double>(screen.width()), static_cast<double>(screen.height())};
+    const auto value = [&](const char* name) { return ReadWindowValue(state_.store, name, twips); };
+    const auto inside = [](double position, double end) { return position < 0 || position > end ? 0.0 : position; };
+    const auto pixels = [](double length) { return static_cast<int>(length / kTwips); };
+    resize(pixels(value("WindowWidth")), pixels(value("WindowHeight")));
+    if (!state_.bolFromFSV)
+        move(pixels(inside(value("WindowLeft"), twips.width)), pixels(inside(value("WindowTop"), twips.height)));
+    switch (static_cast<int>(value("WindowState"))) {
+    case 1: showMinimized(); break;
+    case 2: showMaximized(); break;
+    default: break;
+    }
+}
+
+// ------------------------------------------------------------------------------------------------------------- events
+
+// A document at work is stopped first; the window goes at the next request.
+void frmMainWindow::closeEvent(QCloseEvent* event)
+{
+    area_->closeAllSubWindows();
+    if (ActiveDocument() != nullptr && ActiveDocument()->IsBusy()) return event->ignore();
+    const int state = isMinimized() ? 1 : isMaximized() ? 2 : 0;
+    const auto write = [&](const char* name, double value) {
+        state_.store.SetRegistryValue(kSettingsKey, name, value);
+    };
+    write("WindowState", state);
+    if (state == 0) {
+        write("WindowTop", pos().y() * kTwips);
+        write("WindowLeft", pos().x() * kTwips);
+        write("WindowWidth", width() * kTwips);
+        write("WindowHeight", height() * kTwips);
+    }
+    WriteWindowState(state_);
+    messages_->hide();
+    QMainWindow::closeEvent(event);
+}
+
+void frmMainWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange && !commands_.empty()) SetIcons();
+    QMainWindow::changeEvent(event);
+}
+
+void frmMainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void frmMainWindow::dropEvent(QDropEvent* event) { OpenFiles(LocalFilesOf(*event->mimeData())); }
+
+}  // namespace folioscope

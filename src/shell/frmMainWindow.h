@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "shell/shell_state.h"
+
+class QAction;
+class QMdiArea;
+class QMdiSubWindow;
+class QMenu;
+class QToolBar;
+
+namespace folioscope {
+
+class frmMessages;
+class frmParserWindow;
+
+// Starts a copy of the program with these arguments. True if it started.
+using ProcessStarter = std::function<bool(const QStringList& arguments)>;
+
+// The frame of the process: menus, toolbar and at most one document. Nearly all commands act on the document.
+class frmMainWindow final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit frmMainWindow(ShellState& state, QWidget* parent = nullptr);
+    ~frmMainWindow() override;
+
+    void SetProcessStarter(ProcessStarter starter) { starter_ = std::move(starter); }
+
+    // Opens a file here, or in a process of its own if there is a document already.
+    void ProcessFile(const QString& path);
+    frmParserWindow* ActiveDocument() const;
+    frmMessages& Messages() { return *messages_; }
+    void PlaceWindow();  // where it stood when it was closed last
+
+    void mnuFileOpen();
+    void mnuFileClose();
+    void mnuFileReload();
+    void mnuFileSaveDump();
+    void mnuFileSaveDumpAs();
+    void mnuFileExit();
+    void mnuEditFind();
+    void mnuEditFindNext();
+    void mnuEditTreeExpand();
+    void mnuEditTreeCollapse();
+    void mnuWindowsMessages();
+    void mnuWindowsCascade();
+    void mnuWindowsTileVertical();
+    void mnuWindowsTileHorizontal();
+    void mnuWindowsCloseAll();
+    void mnuHelpHelp();
+    void mnuHelpWebsite();
+    void mnuHelpAbout();
+    void tlbCancel();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void MakeCommands();
+    void MakeRecentFiles(QMenu& menu);
+    void SetTexts();
+    void SetIcons();
+    void ShowRecentFiles();
+    void UpdateCommands();
+    void StartProcess(const QString& path);
+    void OpenHere(const QString& path);
+    void OpenFiles(const QStringList& paths);
+    void Tile(Qt::Orientation direction);
+    bool MayReplace(const QString& name);
+
+    ShellState& state_;
+    ProcessStarter starter_;
+    QMdiArea* area_;
+    QToolBar* tlbMenu_;
+    std::unique_ptr<frmMessages> messages_;
+    std::vector<QAction*> commands_;  // in the order of their table
+    std::vector<QMenu*> menus_;
+    QAction* mnuDivider10_ = nullptr;
+    std::array<QAction*, RecentFiles::kPlaces> mnuFileListFile_{};
+};
+
+}  // namespace folioscope

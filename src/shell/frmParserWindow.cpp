@@ -1,0 +1,337 @@
+#include "shell/frmParserWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include "base/text.h"
+#include "shell/divider.h"
+#include "shell/fly_tree.h"
+#include "shell/icons.h"
+#include "shell/property_pane.h"
+#include "shell/qt_text.h"
+
+namespace folioscope {
+
+namespace {
+
+constexpr int kSmallest = 601;  // pixels: narrower ones are refused
+constexpr int kShowEvery = 50;  // milliseconds between two looks at what an operation has done
+
+template <class Control> Control* Named(Control* control, const char* name)
+{
+    control->setObjectName(QString::fromLatin1(name));
+    return control;
+}
+
+}  // namespace
+
+frmParserWindow::frmParserWindow(ShellState& state, QWidget* parent)
+    : QWidget(parent), state_(state), flyTreeStructure_(Named(new FlyTree(this), "flyTreeStructure")),
+      txtProperties_(Named(new PropertyPane(state.InterfaceTexts(), this), "txtProperties")),
+      imgDivider_(Named(new Divider(Qt::Horizontal, this), "imgDivider")),
+      imgDivider2_(Named(new Divider(Qt::Horizontal, this), "imgDivider2")),
+      imgDivider3_(Named(new Divider(Qt::Vertical, this), "imgDivider3")),
+      picViewFrame_(Named(new QFrame(this), "picViewFrame")), picHex_(Named(new QFrame(this), "picHex")),
+      picStatusBar_(MakeStatusBar())
+{
+    setMinimumWidth(kSmallest);
+    for (QWidget* const hidden : {static_cast<QWidget*>(picViewFrame_), static_cast<QWidget*>(picHex_),
+                                  static_cast<QWidget*>(imgDivider2_), static_cast<QWidget*>(imgDivider3_)})
+        hidden->hide();
+    flyTreeStructure_->SetIcons(TreeIcon);
+    flyTreeStructure_->SetItemSeparator("^");
+    connect(flyTreeStructure_, &FlyTree::OnSelChange, this, &frmParserWindow::flyTreeStructure_OnSelChange);
+    connect(txtProperties_, &PropertyPane::FilesDropped, this, &frmParserWindow::FilesDropped);
+    connect(cmdCancel_, &QPushButton::clicked, this, &frmParserWindow::cmdCancel_Click);
+    connect(imgDivider_, &Divider::Dragged, this, &frmParserWindow::DragTreeDivider);
+    connect(imgDivider2_, &Divider::Dragged, this, &frmParserWindow::DragPreviewDivider);
+    connect(imgDivider3_, &Divider::Dragged, this, &frmParserWindow::DragHexDivider);
+    SetTexts();
+}
+
+frmParserWindow::~frmParserWindow() { flyTreeStructure_->Clear(); }
+
+QWidget* frmParserWindow::MakeStatusBar()
+{
+    auto* const bar = Named(new QWidget(this), "picStatusBar");
+    pgbProgress_ = Named(new QProgressBar(bar), "pgbProgress");
+    cmdCancel_ = Named(new QPushButton(bar), "cmdCancel");
+    lblPageCount_ = Named(new QLabel(bar), "lblPageCount");
+    lblSFCount_ = Named(new QLabel(bar), "lblSFCount");
+    auto* const row = new QHBoxLayout(bar);
+    row->setContentsMargins(6, 2, 6, 2);
+    row->addWidget(pgbProgress_, 1);
+    row->addWidget(cmdCancel_);
+    row->addStretch(1);
+    row->addWidget(lblPageCount_);
+    row->addSpacing(12);
+    row->addWidget(lblSFCount_);
+    pgbProgress_->setTextVisible(false);
+    pgbProgress_->hide();
+    cmdCancel_->hide();
+    return bar;
+}
+
+void frmParserWindow::SetTexts()
+{
+    const Labels texts = state_.InterfaceTexts();
+    txtProperties_->SetTexts(texts);
+    flyTreeStructure_->SetLabels(texts);
+    cmdCancel_->setText(ToQt(texts, U("Cancel")));
+    flyTreeStructure_->setAccessibleName(ToQt(texts, U("Structure")));
+    txtProperties_->setAccessibleName(ToQt(texts, U("Properties")));
+    pgbProgress_->setAccessibleName(ToQt(texts, U("Progress")));
+    imgDivider_->setAccessibleName(ToQt(texts, U("Width of the structure")));
+    imgDivider2_->setAccessibleName(ToQt(texts, U("Width of the preview")));
+    imgDivider3_->setAccessibleName(ToQt(texts, U("Height of the hex viewer")));
+    ShowCounters();
+}
+
+bool frmParserWindow::ProcessAFPFile(const QString& path)
+{
+    path_ = path;
+    document_ =
+        std::make_unique<Document>(state_.settings, state_.numbers, state_.messages, static_cast<RunHost&>(*this));
+    flyTreeStructure_->SetTree(&document_->Tree());
+    const bool walked = document_->ProcessAFPFile(path.toStdString());
+    Q_EMIT StateChanged();
+    const RunOutcome outcome = document_->Outcome();
+    return walked || (outcome != RunOutcome::Missing && outcome != RunOutcome::TooBig);
+}
+
+bool frmParserWindow::MayClose()
+{
+    if (document_) document_->SetOperationInteruptedFlag(true);
+    return !IsBusy();
+}
+
+void frmParserWindow::closeEvent(QCloseEvent* event) { event->setAccepted(MayClose()); }
+
+void frmParserWindow::cmdCancel_Click()
+{
+    if (document_ && IsBusy()) document_->SetOperationInteruptedFlag(true);
+}
+
+// -------------------------------------------------------------------------------------------------------- operations
+
+void frmParserWindow::OperationStarts(std::int64_t lngMaximum)
+{
+    ++busy_;
+    for (progressShift_ = 0; lngMaximum >> progressShift_ > std::numeric_limits<int>::max();) ++progressShift_;
+    progress_ = 0;
+    pgbProgress_->setRange(0, static_cast<int>(lngMaximum >> progressShift_));
+    pgbProgress_->setValue(0);
+    pgbProgress_->show();
+    cmdCancel_->show();
+    shown_.start();
+    Q_EMIT StateChanged();
+}
+
+void frmParserWindow::Progress(std::int64_t lngValue) { progress_ = lngValue; }
+
+void frmParserWindow::Counters(std::int32_t lngSFCount, std::int32_t lngPageCount)
+{
+    lngSFCount_ = lngSFCount;
+    lngPageCount_ = lngPageCount;
+}
+
+// What the operation has done so far is shown now and then: showing it each time would cost more than the operation.
+void frmParserWindow::GiveWay()
+{
+    if (shown_.hasExpired(kShowEvery)) {
+        pgbProgress_->setValue(static_cast<int>(progress_ >> progressShift_));
+        ShowCounters();
+        flyTreeStructure_->Refresh();
+        shown_.start();
+    }
+    QCoreApplication::processEvents();
+}
+
+void frmParserWindow::OperationEnds()
+{
+    --busy_;
+    pgbProgress_->setValue(pgbProgress_->maximum());
+    pgbProgress_->hide();
+    cmdCancel_->hide();
+    ShowCounters();
+    flyTreeStructure_->Refresh();
+    Q_EMIT StateChanged();
+}
+
+void frmParserWindow::RunFinished()
+{
+    ShowCounters();
+    flyTreeStructure_->Refresh();
+    flyTreeStructure_->Expand(NodeStore::kRoot);
+    flyTreeStructure_->setFocus();
+    SelectNode(NodeStore::kRoot);
+}
+
+void frmParserWindow::PreviewOffered()
+{
+    previewOffered_ = true;
+    Q_EMIT StateChanged();
+}
+
+void frmParserWindow::MessageBox(BoxIcon icon, std::string_view title, std::string_view text)
+{
+    QMessageBox box(icon == BoxIcon::Stop ? QMessageBox::Critical : QMessageBox::Information, ToQt(title), ToQt(text),
+                    QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void frmParserWindow::ShowCounters()
+{
+    const Labels analysis(state_.settings.AnalysisLanguage());
+    std::string records, pages;
+    AppendFormatted(records, std::int64_t{lngSFCount_}, Picture::Grouped, state_.numbers);
+    AppendFormatted(pages, std::int64_t{lngPageCount_}, Picture::Grouped, state_.numbers);
+    const std::string_view page = analysis[L("Page")];
+    pages += ' ';
+    pages += page.substr(0, Utf8Step(page.front()));
+    lblSFCount_->setText(ToQt(records + " SF"));
+    lblPageCount_->setText(ToQt(pages + '.'));
+}
+
+// ------------------------------------------------------------------------------------------------------------- nodes
+
+void frmParserWindow::SelectNode(std::uint32_t node)
+{
+    flyTreeStructure_->Select(node);
+    flyTreeStructure_OnSelChange(node);
+}
+
+void frmParserWindow::flyTreeStructure_OnSelChange(std::uint32_t node)
+{
+    if (!document_ || node == 0) return txtProperties_->ShowPropertyText("");
+    // The reader is on its way through the file in a run: bodies come when it has arrived.
+    if (document_->GetNodeContents_bolUnread(node) && !IsBusy()) {
+        auto failure = document_->RedirectOpenAFPFileRandom();
+        if (!failure) failure = document_->LookupMissingData(node);
+        document_->RedirectCloseAFPFile();
+        if (failure) TellFailure(failure);
+        flyTreeStructure_->Refresh();
+    }
+    ShowNode(node);
+}
+
+void frmParserWindow::ShowNode(std::uint32_t node)
+{
+    txtProperties_->ShowPropertyText(document_->GetNodeContents_strContent(node));
+}
+
+void frmParserWindow::TellFailure(const FileFailure& failure)
+{
+    const Labels texts = state_.InterfaceTexts();
+    std::string text(texts[U("File %1 could not be opened! Following error occured: NEWLINE %2, %3")]);
+    ChangeString(text, "%1", path_.toStdString());
+    ChangeString(text, "%2", std::to_string(failure.number));
+    ChangeString(text, "%3", failure.description);
+    ChangeString(text, " NEWLINE ", "\r");
+    MessageBox(BoxIcon::Stop, "Stop", text);
+}
+
+void frmParserWindow::SaveDump(const QString& name)
+{
+    document_->SetOperationInteruptedFlag(false);
+    document_->SaveDump(name.toStdString());
+    flyTreeStructure_->Refresh();
+}
+
+void frmParserWindow::FindNext()
+{
+    const FindResult result = document_->FindNext(flyTreeStructure_->Selected(), state_.find);
+    if (result.outcome == FindOutcome::ReadFailed) return TellFailure(result.failure);
+    if (result.node != 0) SelectNode(result.node);
+    if (result.outcome == FindOutcome::NoMore)
+        MessageBox(BoxIcon::Information, "Information", state_.InterfaceTexts()[U("No (more) items found!")]);
+}
+
+void frmParserWindow::ExpandAll()
+{
+    document_->SetOperationInteruptedFlag(false);
+    OperationStarts(document_->Tree().Nodes().Size());
+    flyTreeStructure_->ExpandAll([this] {
+        GiveWay();
+        return !document_->GetOperationInteruptedFlag();
+    });
+    OperationEnds();
+    document_->SetOperationInteruptedFlag(false);
+}
+
+void frmParserWindow::FullCollapse() { flyTreeStructure_->FullCollapse(); }
+
+std::string frmParserWindow::SelectedPath() const { return flyTreeStructure_->FullPath(flyTreeStructure_->Selected()); }
+
+void frmParserWindow::SelectPath(const std::string& path)
+{
+    const std::uint32_t node = flyTreeStructure_->ExtractNode(path);
+    SelectNode(node != 0 ? node : NodeStore::kRoot);
+}
+
+// ------------------------------------------------------------------------------------------------------------- panes
+
+void frmParserWindow::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (!isMinimized()) PlacePanes();
+}
+
+void frmParserWindow::PlacePanes()
+{
+    const PaneLayout& panes = state_.panes;
+    const int inner = width(), status = picStatusBar_->sizeHint().height();
+    int bottom = height() - status;
+    picStatusBar_->setGeometry(0, bottom, inner, status);
+    if (!picHex_->isHidden()) {
+        const int hex = static_cast<int>(panes.HexWindowHeight * static_cast<float>(height()) / 100);
+        picHex_->setGeometry(0, bottom - hex, inner, hex);
+        bottom -= hex + Divider::kThickness;
+        imgDivider3_->setGeometry(0, bottom, inner, Divider::kThickness);
+    }
+    const int tree = static_cast<int>(panes.TreeWidthPercentual * static_cast<float>(inner) / 100);
+    flyTreeStructure_->setGeometry(0, 0, tree, bottom);
+    imgDivider_->setGeometry(tree, 0, Divider::kThickness, bottom);
+    int right = inner;
+    if (!picViewFrame_->isHidden()) {
+        const int view = static_cast<int>(panes.CPVWidthPercentual * static_cast<float>(inner) / 100);
+        picViewFrame_->setGeometry(inner - view, 0, view, bottom);
+        right = inner - view - Divider::kThickness;
+        imgDivider2_->setGeometry(right, 0, Divider::kThickness, bottom);
+    }
+    const int left = tree + Divider::kThickness;
+    txtProperties_->setGeometry(left, 0, right - left, bottom);
+}
+
+// The bounds are open: a divider that would stand on one stays where it is.
+void frmParserWindow::DragTreeDivider(int position)
+{
+    const float percentage = static_cast<float>(position) * 100 / static_cast<float>(width());
+    if (percentage <= 10 || percentage >= 100 - state_.panes.CPVWidthPercentual - 10) return;
+    state_.panes.TreeWidthPercentual = percentage;
+    PlacePanes();
+}
+
+void frmParserWindow::DragPreviewDivider(int position)
+{
+    const float percentage = static_cast<float>(position) * 100 / static_cast<float>(width());
+    if (percentage <= state_.panes.TreeWidthPercentual + 10 || percentage >= 90) return;
+    state_.panes.CPVWidthPercentual = 100 - percentage;
+    PlacePanes();
+}
+
+void frmParserWindow::DragHexDivider(int position)
+{
+    const float percentage = static_cast<float>(position) * 100 / static_cast<float>(height());
+    if (percentage <= 30 || percentage >= 80) return;
+    state_.panes.HexWindowHeight = 100 - percentage;
+    PlacePanes();
+}
+
+}  // namespace folioscope

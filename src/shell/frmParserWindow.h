@@ -1,0 +1,105 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QFrame>
+#include <QWidget>
+
+#include <memory>
+
+#include "document/document.h"
+#include "document/run_host.h"
+#include "shell/shell_state.h"
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+namespace folioscope {
+
+class Divider;
+class FlyTree;
+class PropertyPane;
+
+// One AFP file: its tree, its texts, and the places of the hex pane and of the preview. It forwards to a Document,
+// which has all there is to know of the file.
+class frmParserWindow final : public QWidget, private RunHost {
+    Q_OBJECT
+
+public:
+    explicit frmParserWindow(ShellState& state, QWidget* parent = nullptr);
+    ~frmParserWindow() override;
+
+    // Walks the file. False: there is nothing to show, and the window should go.
+    bool ProcessAFPFile(const QString& path);
+    const QString& Path() const { return path_; }
+
+    // A run, a dump, a search or an expansion is under way.
+    bool IsBusy() const { return busy_ > 0; }
+    // The user wants the window to go: a busy one is stopped, and goes at the next request.
+    bool MayClose();
+
+    void SaveDump(const QString& name);
+    // The next hit behind the selected node.
+    void FindNext();
+    void ExpandAll();
+    void FullCollapse();
+    void cmdCancel_Click();
+
+    // The selected node as a path with ^ between the levels, and back; a path that isn't there selects the root.
+    std::string SelectedPath() const;
+    void SelectPath(const std::string& path);
+
+    bool HasPreview() const { return previewOffered_; }
+    void SetTexts();  // of the language in force
+
+Q_SIGNALS:
+    void StateChanged();  // what can be done with the window has changed
+    void FilesDropped(const QStringList& paths);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    // RunHost
+    void OperationStarts(std::int64_t lngMaximum) override;
+    void Progress(std::int64_t lngValue) override;
+    void Counters(std::int32_t lngSFCount, std::int32_t lngPageCount) override;
+    void GiveWay() override;
+    void OperationEnds() override;
+    void RunFinished() override;
+    void PreviewOffered() override;
+    void MessageBox(BoxIcon icon, std::string_view title, std::string_view text) override;
+
+    QWidget* MakeStatusBar();
+    void flyTreeStructure_OnSelChange(std::uint32_t node);
+    void ShowNode(std::uint32_t node);
+    void SelectNode(std::uint32_t node);
+    void TellFailure(const FileFailure& failure);
+    void PlacePanes();
+    void DragTreeDivider(int position);
+    void DragPreviewDivider(int position);
+    void DragHexDivider(int position);
+    void ShowCounters();
+
+    ShellState& state_;
+    QString path_;
+    std::unique_ptr<Document> document_;
+    FlyTree* flyTreeStructure_;
+    PropertyPane* txtProperties_;
+    Divider *imgDivider_, *imgDivider2_, *imgDivider3_;
+    QFrame *picViewFrame_, *picHex_;  // filled by the viewers
+    QWidget* picStatusBar_;
+    QProgressBar* pgbProgress_;
+    QPushButton* cmdCancel_;
+    QLabel *lblPageCount_, *lblSFCount_;
+
+    int busy_ = 0;
+    bool previewOffered_ = false;
+    std::int64_t progress_ = 0;
+    int progressShift_ = 0;  // a progress bar counts in 31 bits
+    std::int32_t lngSFCount_ = 0, lngPageCount_ = 0;
+    QElapsedTimer shown_;  // since the panes were last brought up to date in an operation
+};
+
+}  // namespace folioscope

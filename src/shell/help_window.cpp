@@ -1,0 +1,53 @@
+#include "shell/help_window.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QUrl>
+
+#include "shell/help_browser.h"
+
+namespace folioscope {
+
+namespace {
+
+constexpr const char* kFolders[] = {"", "/../share/folioscope/help", FOLIOSCOPE_HELP_FOLDER};
+
+const char* FileName(Language language)
+{
+    switch (language) {
+    case Language::German: return "help.de.html";
+    case Language::French: return "help.fr.html";
+    default: return "help.en.html";
+    }
+}
+
+}  // namespace
+
+QString HelpFile(Language language)
+{
+    for (const QString folder : kFolders) {
+        const QString base =
+            folder.startsWith('/') && !folder.startsWith("/..") ? QString() : QCoreApplication::applicationDirPath();
+        const QFileInfo file(base + folder + '/' + FileName(language));
+        if (file.isFile()) return file.canonicalFilePath();
+    }
+    return {};
+}
+
+void ShowHelp(Language language, QWidget* parent)
+{
+    const QString file = HelpFile(language);
+    if (file.isEmpty()) return;
+    auto* const browser = new HelpBrowser(parent);
+    browser->setWindowFlag(Qt::Window);
+    browser->setAttribute(Qt::WA_DeleteOnClose);
+    browser->setObjectName("helpWindow");
+    browser->setOpenExternalLinks(true);
+    browser->setSource(QUrl::fromLocalFile(file));
+    browser->setWindowTitle(browser->documentTitle());
+    browser->setAccessibleName(browser->documentTitle());
+    browser->resize(760, 820);
+    browser->show();
+}
+
+}  // namespace folioscope
