@@ -17,7 +17,7 @@ public:
     {
     }
 
-    TextBuffer& operator+=(std::string_view text)
+    [[gnu::always_inline]] TextBuffer& operator+=(std::string_view text)
     {
         if (text.size() > capacity_ - size_) [[unlikely]]
             Grow(text.size());
