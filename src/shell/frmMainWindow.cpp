@@ -54,6 +54,7 @@ constexpr MenuRow kMenus[] = {
 
 frmMainWindow::frmMainWindow(ShellState& state, QWidget* parent)
     : QMainWindow(parent), state_(state), area_(new QMdiArea(this)), tlbMenu_(new QToolBar(this)),
+      listener_(new QObject(this)),
       messages_(std::make_unique<frmMessages>(state.messages, state.settings, state.InterfaceTexts()))
 {
     setObjectName("frmMainWindow");
@@ -65,7 +66,7 @@ frmMainWindow::frmMainWindow(ShellState& state, QWidget* parent)
     tlbMenu_->setMovable(false);
     tlbMenu_->setContextMenuPolicy(Qt::PreventContextMenu);
     addToolBar(tlbMenu_);
-    connect(area_, &QMdiArea::subWindowActivated, this, &frmMainWindow::UpdateCommands);
+    connect(area_, &QMdiArea::subWindowActivated, listener_, [this] { UpdateCommands(); });
     connect(messages_.get(), &frmMessages::MessagesArrived, this, &frmMainWindow::UpdateCommands);
     MakeCommands();
     SetTexts();
@@ -73,11 +74,10 @@ frmMainWindow::frmMainWindow(ShellState& state, QWidget* parent)
     UpdateCommands();
 }
 
-// The documents go first, while there is somebody to hear of it no more.
+// The documents go while the window is still whole, and nobody listens any more.
 frmMainWindow::~frmMainWindow()
 {
-    disconnect(area_, nullptr, this, nullptr);
-    for (QMdiSubWindow* const window : area_->subWindowList()) disconnect(window, nullptr, this, nullptr);
+    delete listener_;
     delete area_;
 }
 
@@ -204,9 +204,9 @@ void frmMainWindow::OpenHere(const QString& path)
     QMdiSubWindow* const window = area_->addSubWindow(document);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowTitle(path);
-    connect(document, &frmParserWindow::StateChanged, this, &frmMainWindow::UpdateCommands);
+    connect(document, &frmParserWindow::StateChanged, listener_, [this] { UpdateCommands(); });
     connect(document, &frmParserWindow::FilesDropped, this, &frmMainWindow::OpenFiles);
-    connect(window, &QObject::destroyed, this, [this] {
+    connect(window, &QObject::destroyed, listener_, [this] {
         state_.messages.Clear();
         UpdateCommands();
     });

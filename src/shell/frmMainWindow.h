@@ -82,6 +82,7 @@ private:
     ProcessStarter starter_;
     QMdiArea* area_;
     QToolBar* tlbMenu_;
+    QObject* listener_;  // on whose behalf the window hears of its documents
     std::unique_ptr<frmMessages> messages_;
     std::vector<QAction*> commands_;  // in the order of their table
     std::vector<QMenu*> menus_;
