@@ -9,7 +9,7 @@
 
 #include "base/text.h"
 #include "shell/access_keys.h"
-#include "shell/qt_text.h"
+#include "viewers/qt_text.h"
 
 namespace folioscope {
 

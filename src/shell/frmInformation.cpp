@@ -7,7 +7,7 @@
 
 #include "base/version.h"
 #include "shell/access_keys.h"
-#include "shell/qt_text.h"
+#include "viewers/qt_text.h"
 
 namespace folioscope {
 

@@ -26,8 +26,8 @@
 #include "shell/help_window.h"
 #include "shell/icons.h"
 #include "shell/main_commands.h"
-#include "shell/qt_text.h"
 #include "shell/website.h"
+#include "viewers/qt_text.h"
 
 namespace folioscope {
 

@@ -17,7 +17,7 @@
 #include <vector>
 
 #include "shell/access_keys.h"
-#include "shell/qt_text.h"
+#include "viewers/qt_text.h"
 
 namespace folioscope {
 

@@ -13,7 +13,7 @@
 #include "shell/fly_tree.h"
 #include "shell/icons.h"
 #include "shell/property_pane.h"
-#include "shell/qt_text.h"
+#include "viewers/qt_text.h"
 
 namespace folioscope {
 

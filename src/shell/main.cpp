@@ -11,7 +11,7 @@
 #include "shell/command_line.h"
 #include "shell/frmMainWindow.h"
 #include "shell/icons.h"
-#include "shell/resource_lists.h"
+#include "viewers/resource_lists.h"
 
 namespace {
 

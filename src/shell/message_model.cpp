@@ -2,7 +2,7 @@
 
 #include "base/text.h"
 #include "shell/marked_colours.h"
-#include "shell/qt_text.h"
+#include "viewers/qt_text.h"
 
 namespace folioscope {
 

@@ -17,7 +17,7 @@
 #include "shell/dropped_files.h"
 #include "shell/marked_colours.h"
 #include "shell/open_in_browser.h"
-#include "shell/qt_text.h"
+#include "viewers/qt_text.h"
 
 namespace folioscope {
 

@@ -9,8 +9,8 @@
 #include "shell/access_keys.h"
 #include "shell/frmFind.h"
 #include "shell/frmInformation.h"
-#include "shell/qt_text.h"
 #include "shell/window_checks.h"
+#include "viewers/qt_text.h"
 
 namespace folioscope {
 namespace {

@@ -14,8 +14,8 @@
 #include <QtTest/qtestspontaneevent.h>
 
 #include "shell/marked_colours.h"
-#include "shell/qt_text.h"
 #include "shell/window_checks.h"
+#include "viewers/qt_text.h"
 
 namespace folioscope {
 namespace {

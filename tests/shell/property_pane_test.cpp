@@ -15,8 +15,8 @@
 #include "analysis/render/property_text.h"
 #include "shell/marked_colours.h"
 #include "shell/open_in_browser.h"
-#include "shell/qt_text.h"
 #include "shell/window_checks.h"
+#include "viewers/qt_text.h"
 
 namespace folioscope {
 namespace {

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "shell/resource_lists.h"
 #include "support/temporary_file.h"
+#include "viewers/resource_lists.h"
 
 namespace folioscope {
 namespace {

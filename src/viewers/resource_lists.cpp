@@ -1,4 +1,4 @@
-#include "shell/resource_lists.h"
+#include "viewers/resource_lists.h"
 
 #include <cctype>
 #include <filesystem>
