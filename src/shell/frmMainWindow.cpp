@@ -27,6 +27,8 @@
 #include "shell/icons.h"
 #include "shell/main_commands.h"
 #include "shell/website.h"
+#include "viewers/frmOptions.h"
+#include "viewers/preview_pane.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {
@@ -34,6 +36,7 @@ namespace folioscope {
 namespace {
 
 constexpr int kTwips = 15;  // a pixel
+constexpr int kZoomStep = 10;  // percent
 
 struct MenuRow {
     Menu menu;
@@ -55,7 +58,8 @@ constexpr MenuRow kMenus[] = {
 frmMainWindow::frmMainWindow(ShellState& state, QWidget* parent)
     : QMainWindow(parent), state_(state), area_(new QMdiArea(this)), tlbMenu_(new QToolBar(this)),
       listener_(new QObject(this)),
-      messages_(std::make_unique<frmMessages>(state.messages, state.settings, state.InterfaceTexts()))
+      messages_(std::make_unique<frmMessages>(state.messages, state.settings, state.InterfaceTexts())),
+      options_(std::make_unique<frmOptions>(state.store, state.settings, QCoreApplication::applicationDirPath(), this))
 {
     setObjectName("frmMainWindow");
     setWindowTitle("Folioscope");
@@ -68,6 +72,7 @@ frmMainWindow::frmMainWindow(ShellState& state, QWidget* parent)
     addToolBar(tlbMenu_);
     connect(area_, &QMdiArea::subWindowActivated, listener_, [this] { UpdateCommands(); });
     connect(messages_.get(), &frmMessages::MessagesArrived, this, &frmMainWindow::UpdateCommands);
+    connect(options_.get(), &frmOptions::LanguageChosen, this, &frmMainWindow::TryLanguage);
     MakeCommands();
     SetTexts();
     SetIcons();
@@ -91,15 +96,15 @@ void frmMainWindow::MakeCommands()
     }
     for (const MainCommand& row : MainCommands()) {
         QMenu* const menu = row.menu == Menu::None ? nullptr : menus_[static_cast<std::size_t>(row.menu) - 1];
-        const bool separator = row.item == nullptr && row.button == nullptr;
+        const bool separator = row.text == Label::None;
         auto* const action = new QAction(this);
         action->setSeparator(separator);
-        action->setObjectName(row.item != nullptr ? row.item : row.button);
+        action->setObjectName(row.item != nullptr ? row.item : row.button);  // none for most separators
         if (row.key != 0) action->setShortcut(QKeySequence(row.key));
         if (row.action != nullptr) connect(action, &QAction::triggered, this, [this, row] { (this->*row.action)(); });
         if (menu != nullptr) menu->addAction(action);
         if (row.button != nullptr || (separator && menu == nullptr)) tlbMenu_->addAction(action);
-        if (row.button != nullptr) tlbMenu_->widgetForAction(action)->setObjectName(row.button);
+        if (row.button != nullptr && !separator) tlbMenu_->widgetForAction(action)->setObjectName(row.button);
         commands_.push_back(action);
     }
     MakeRecentFiles(*menus_.front());
@@ -133,6 +138,16 @@ void frmMainWindow::SetTexts()
     for (QMenu* const menu : menus_) GiveAccessKeys(*menu);
     tlbMenu_->setWindowTitle(ToQt(texts, U("Toolbar")));
     messages_->SetTexts(texts);
+    options_->SetTexts(texts);
+    for (QMdiSubWindow* const window : area_->subWindowList())
+        if (auto* const document = qobject_cast<frmParserWindow*>(window->widget())) document->SetTexts();
+}
+
+// A language is tried out in the whole program while the options are open.
+void frmMainWindow::TryLanguage(Language language)
+{
+    state_.triedLanguage = language;
+    SetTexts();
 }
 
 void frmMainWindow::SetIcons()
@@ -146,6 +161,7 @@ void frmMainWindow::UpdateCommands()
 {
     const frmParserWindow* const document = ActiveDocument();
     const bool busy = document != nullptr && document->IsBusy();
+    const bool pagesShown = document != nullptr && document->PreviewShown();
     const auto enabled = [&](When when) {
         switch (when) {
         case When::Always: return true;
@@ -153,12 +169,16 @@ void frmMainWindow::UpdateCommands()
         case When::Idle: return document != nullptr && !busy;
         case When::Busy: return busy;
         case When::HasMessages: return document != nullptr && state_.messages.Size() > 0;
-        case When::Later: return false;
+        case When::HasPages: return document != nullptr && document->HasPreview();
+        case When::PagesShown: return pagesShown;
         }
         return false;
     };
     const auto rows = MainCommands();
-    for (std::size_t i = 0; i < rows.size(); ++i) commands_[i]->setEnabled(enabled(rows[i].when));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        commands_[i]->setEnabled(enabled(rows[i].when));
+        if (rows[i].when == When::PagesShown) commands_[i]->setVisible(pagesShown);
+    }
 }
 
 void frmMainWindow::ShowRecentFiles()
@@ -195,7 +215,8 @@ void frmMainWindow::StartProcess(const QString& path)
     if (!state_.strReloadNode.empty()) arguments << "/reload=" + ToQt(state_.strReloadNode);
     arguments << path;
     if (starter_ ? !starter_(arguments) : !QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments))
-        QMessageBox::critical(this, "Stop", QCoreApplication::applicationFilePath());
+        TellOf(U("The file could not be opened in a second window:\r\n%1\r\nThe program could not be started again. "
+                 "Please close this document first, then open the file."), path);
 }
 
 void frmMainWindow::OpenHere(const QString& path)
@@ -205,7 +226,9 @@ void frmMainWindow::OpenHere(const QString& path)
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowTitle(path);
     connect(document, &frmParserWindow::StateChanged, listener_, [this] { UpdateCommands(); });
-    connect(document, &frmParserWindow::FilesDropped, this, &frmMainWindow::OpenFiles);
+    connect(document, &frmParserWindow::FilesDropped, this, &frmMainWindow::OpenFiles,
+            Qt::QueuedConnection);
+    connect(document, &frmParserWindow::LinkNotOpened, this, &frmMainWindow::TellOfNoBrowser);
     connect(window, &QObject::destroyed, listener_, [this] {
         state_.messages.Clear();
         UpdateCommands();
@@ -310,7 +333,58 @@ void frmMainWindow::tlbCancel()
     if (frmParserWindow* const document = ActiveDocument()) document->cmdCancel_Click();
 }
 
+// ------------------------------------------------------------------------------------------------------------ preview
+
+void frmMainWindow::tlbPreview()
+{
+    if (frmParserWindow* const document = ActiveDocument()) document->ShowPreview();
+}
+
+void frmMainWindow::tlbTurnLeft() { ActOnPages(&PreviewPane::ViewRotate, -1); }
+
+void frmMainWindow::tlbTurnRight() { ActOnPages(&PreviewPane::ViewRotate, 1); }
+
+void frmMainWindow::tlbFitToWidth() { ActOnPages(&PreviewPane::FitToSize, 2); }
+
+void frmMainWindow::tlbFitToSize() { ActOnPages(&PreviewPane::FitToSize, 1); }
+
+void frmMainWindow::tlbZoomOut() { ActOnPages(&PreviewPane::ViewZoomLevel, -kZoomStep); }
+
+void frmMainWindow::tlbZoom100() { ActOnPages(&PreviewPane::ViewZoom100); }
+
+void frmMainWindow::tlbZoomIn() { ActOnPages(&PreviewPane::ViewZoomLevel, kZoomStep); }
+
+void frmMainWindow::tlbPrint() { ActOnPages(&PreviewPane::ViewPrint); }
+
+void frmMainWindow::IVEDisplayMachineCallback_LogMessage(const QString& /*origin*/, int number, int severity,
+                                                         const QString& message)
+{
+    constexpr std::array kKnown = {1038, 2014, 3015, 3204};  // what every other file gives
+    if (std::ranges::find(kKnown, number) != kKnown.end() || severity < 2 || severity > 4) return;
+    constexpr std::array kSeverities = {MessageSeverity::Warning, MessageSeverity::Error, MessageSeverity::Fatal};
+    state_.messages.addMessage(MessageSource::Viewer, kSeverities[static_cast<std::size_t>(severity) - 2],
+                               message.toStdString(), severity > 2);
+}
+
 // ------------------------------------------------------------------------------------------------------------ windows
+
+// In the options a language is tried out; what holds afterwards is what was confirmed.
+void frmMainWindow::mnuExtrasOptions()
+{
+    options_->exec();
+    state_.triedLanguage.reset();
+    SetTexts();
+    if (frmParserWindow* const document = ActiveDocument()) document->TakeUnits();
+}
+
+void frmMainWindow::AskAtFirstStart()
+{
+    if (!IsFirstStart(state_.store)) return;
+    state_.store.CreateRegistryKey(kSettingsKey);
+    options_->SetCancelEnabled(false);
+    mnuExtrasOptions();
+    options_->SetCancelEnabled(true);
+}
 
 void frmMainWindow::mnuWindowsMessages() { messages_->ShowOnRequest(); }
 
@@ -343,9 +417,21 @@ void frmMainWindow::mnuHelpWebsite()
 {
     const Labels texts = state_.InterfaceTexts();
     const QString address = ToQt(texts, U("http://www.marrowgate.example/"));
-    if (OpenWebsite(state_.store, address)) return;
-    QString text = ToQt(texts, U("No internet browser has been found for showing the following URL:\r\n%1"));
-    QMessageBox::critical(this, "Stop", text.replace("%1", address));
+    if (!OpenWebsite(state_.store, address)) TellOfNoBrowser(address);
+}
+
+void frmMainWindow::TellOfNoBrowser(const QString& address)
+{
+    TellOf(U("No internet browser has been found for showing the following URL:\r\n%1"), address);
+}
+
+// What went wrong, with what.
+void frmMainWindow::TellOf(Label problem, const QString& what)
+{
+    QString text = ToQt(state_.InterfaceTexts(), problem);
+    QMessageBox box(QMessageBox::Critical, "Stop", text.replace("%1", what), QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
 }
 
 void frmMainWindow::mnuHelpAbout() { frmInformation(state_.InterfaceTexts(), this).exec(); }

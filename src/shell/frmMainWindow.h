@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "shell/shell_state.h"
+#include "viewers/preview_engine.h"
 
 class QAction;
 class QMdiArea;
@@ -18,13 +19,14 @@ class QToolBar;
 namespace folioscope {
 
 class frmMessages;
+class frmOptions;
 class frmParserWindow;
 
 // Starts a copy of the program with these arguments. True if it started.
 using ProcessStarter = std::function<bool(const QStringList& arguments)>;
 
 // The frame of the process: menus, toolbar and at most one document. Nearly all commands act on the document.
-class frmMainWindow final : public QMainWindow {
+class frmMainWindow final : public QMainWindow, private IVEDisplayMachineCallback {
     Q_OBJECT
 
 public:
@@ -37,7 +39,9 @@ public:
     void ProcessFile(const QString& path);
     frmParserWindow* ActiveDocument() const;
     frmMessages& Messages() { return *messages_; }
-    void PlaceWindow();  // where it stood when it was closed last
+    frmOptions& Options() { return *options_; }
+    void PlaceWindow();       // where it stood when it was closed last
+    void AskAtFirstStart();   // has the options confirmed if that was never done
 
     void mnuFileOpen();
     void mnuFileClose();
@@ -49,6 +53,7 @@ public:
     void mnuEditFindNext();
     void mnuEditTreeExpand();
     void mnuEditTreeCollapse();
+    void mnuExtrasOptions();
     void mnuWindowsMessages();
     void mnuWindowsCascade();
     void mnuWindowsTileVertical();
@@ -58,6 +63,15 @@ public:
     void mnuHelpWebsite();
     void mnuHelpAbout();
     void tlbCancel();
+    void tlbPreview();
+    void tlbTurnLeft();
+    void tlbTurnRight();
+    void tlbFitToWidth();
+    void tlbFitToSize();
+    void tlbZoomOut();
+    void tlbZoom100();
+    void tlbZoomIn();
+    void tlbPrint();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -66,9 +80,13 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    void IVEDisplayMachineCallback_LogMessage(const QString& origin, int number, int severity,
+                                              const QString& message) override;
+
     void MakeCommands();
     void MakeRecentFiles(QMenu& menu);
     void SetTexts();
+    void TryLanguage(Language language);
     void SetIcons();
     void ShowRecentFiles();
     void UpdateCommands();
@@ -77,6 +95,10 @@ private:
     void OpenFiles(const QStringList& paths);
     void Tile(Qt::Orientation direction);
     bool MayReplace(const QString& name);
+    void TellOf(Label problem, const QString& what);
+    void TellOfNoBrowser(const QString& address);
+    template <class... Parameters, class... Arguments>
+    void ActOnPages(void (PreviewPane::*operation)(Parameters...), Arguments... arguments);
 
     ShellState& state_;
     ProcessStarter starter_;
@@ -84,6 +106,7 @@ private:
     QToolBar* tlbMenu_;
     QObject* listener_;  // on whose behalf the window hears of its documents
     std::unique_ptr<frmMessages> messages_;
+    std::unique_ptr<frmOptions> options_;
     std::vector<QAction*> commands_;  // in the order of their table
     std::vector<QMenu*> menus_;
     QAction* mnuDivider10_ = nullptr;

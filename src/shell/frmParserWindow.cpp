@@ -13,6 +13,8 @@
 #include "shell/fly_tree.h"
 #include "shell/icons.h"
 #include "shell/property_pane.h"
+#include "viewers/hex_pane.h"
+#include "viewers/preview_pane.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {
@@ -30,23 +32,28 @@ template <class Control> Control* Named(Control* control, const char* name)
 
 }  // namespace
 
-frmParserWindow::frmParserWindow(ShellState& state, QWidget* parent)
-    : QWidget(parent), state_(state), flyTreeStructure_(Named(new FlyTree(this), "flyTreeStructure")),
+frmParserWindow::frmParserWindow(ShellState& state, VEEngine& engine, QWidget* parent)
+    : QWidget(parent), state_(state), analysisTexts_(state.settings.AnalysisLanguage()), flyTreeStructure_(Named(new FlyTree(this), "flyTreeStructure")),
       txtProperties_(Named(new PropertyPane(state.InterfaceTexts(), this), "txtProperties")),
       imgDivider_(Named(new Divider(Qt::Horizontal, this), "imgDivider")),
       imgDivider2_(Named(new Divider(Qt::Horizontal, this), "imgDivider2")),
       imgDivider3_(Named(new Divider(Qt::Vertical, this), "imgDivider3")),
-      picViewFrame_(Named(new QFrame(this), "picViewFrame")), picHex_(Named(new QFrame(this), "picHex")),
+      picViewFrame_(Named(new PreviewPane(engine, this), "picViewFrame")),
+      picHex_(Named(new HexPane(state.settings.Codepage, state.InterfaceTexts(), this), "picHex")),
       picStatusBar_(MakeStatusBar())
 {
     setMinimumWidth(kSmallest);
-    for (QWidget* const hidden : {static_cast<QWidget*>(picViewFrame_), static_cast<QWidget*>(picHex_),
-                                  static_cast<QWidget*>(imgDivider2_), static_cast<QWidget*>(imgDivider3_)})
-        hidden->hide();
+    picViewFrame_->hide();
+    imgDivider2_->hide();
+    picHex_->setVisible(state.settings.HexViewer == 1);
+    imgDivider3_->setVisible(state.settings.HexViewer == 1);
     flyTreeStructure_->SetIcons(TreeIcon);
     flyTreeStructure_->SetItemSeparator("^");
     connect(flyTreeStructure_, &FlyTree::OnSelChange, this, &frmParserWindow::flyTreeStructure_OnSelChange);
     connect(txtProperties_, &PropertyPane::FilesDropped, this, &frmParserWindow::FilesDropped);
+    connect(txtProperties_, &PropertyPane::LinkNotOpened, this, &frmParserWindow::LinkNotOpened);
+    connect(picViewFrame_, &PreviewPane::PageEndWanted, this, &frmParserWindow::SelectPageEnd);
+    connect(picViewFrame_, &PreviewPane::Failed, this, &frmParserWindow::TellOfViewer);
     connect(cmdCancel_, &QPushButton::clicked, this, &frmParserWindow::cmdCancel_Click);
     connect(imgDivider_, &Divider::Dragged, this, &frmParserWindow::DragTreeDivider);
     connect(imgDivider2_, &Divider::Dragged, this, &frmParserWindow::DragPreviewDivider);
@@ -81,6 +88,8 @@ void frmParserWindow::SetTexts()
 {
     const Labels texts = state_.InterfaceTexts();
     txtProperties_->SetTexts(texts);
+    picHex_->SetTexts(texts);
+    picViewFrame_->SetTexts(texts);
     flyTreeStructure_->SetLabels(texts);
     cmdCancel_->setText(ToQt(texts, U("Cancel")));
     flyTreeStructure_->setAccessibleName(ToQt(texts, U("Structure")));
@@ -95,6 +104,8 @@ void frmParserWindow::SetTexts()
 bool frmParserWindow::ProcessAFPFile(const QString& path)
 {
     path_ = path;
+    analysisTexts_ = AnalysingTexts(state_.settings.AnalysisLanguage());
+    picHex_->SetFile(path);
     document_ =
         std::make_unique<Document>(state_.settings, state_.numbers, state_.messages, static_cast<RunHost&>(*this));
     flyTreeStructure_->SetTree(&document_->Tree());
@@ -176,6 +187,29 @@ void frmParserWindow::PreviewOffered()
 {
     previewOffered_ = true;
     Q_EMIT StateChanged();
+    if (state_.settings.UsePreviewWindow == 1 && !previewShown_) ShowPreview();
+}
+
+void frmParserWindow::TakeUnits()
+{
+    if (document_) document_->TakeUnits(state_.settings);
+}
+
+void frmParserWindow::ShowPreview()
+{
+    previewShown_ = !previewShown_;
+    picViewFrame_->setVisible(previewShown_);
+    imgDivider2_->setVisible(previewShown_);
+    PlacePanes();
+    if (previewShown_ && !picViewFrame_->Open(path_, state_.settings.UseAutoRotation == 1)) TellOfViewer();
+    Q_EMIT StateChanged();
+}
+
+void frmParserWindow::TellOfViewer()
+{
+    state_.messages.addMessage(
+        MessageSource::General, MessageSeverity::Information,
+        state_.InterfaceTexts()[U("Sorry, this file can't be displayed currently due to a problem in the viewer!")], false);
 }
 
 void frmParserWindow::MessageBox(BoxIcon icon, std::string_view title, std::string_view text)
@@ -188,11 +222,10 @@ void frmParserWindow::MessageBox(BoxIcon icon, std::string_view title, std::stri
 
 void frmParserWindow::ShowCounters()
 {
-    const Labels analysis(state_.settings.AnalysisLanguage());
     std::string records, pages;
     AppendFormatted(records, std::int64_t{lngSFCount_}, Picture::Grouped, state_.numbers);
     AppendFormatted(pages, std::int64_t{lngPageCount_}, Picture::Grouped, state_.numbers);
-    const std::string_view page = analysis[L("Page")];
+    const std::string_view page = analysisTexts_[L("Page")];
     pages += ' ';
     pages += page.substr(0, Utf8Step(page.front()));
     lblSFCount_->setText(ToQt(records + " SF"));
@@ -209,7 +242,10 @@ void frmParserWindow::SelectNode(std::uint32_t node)
 
 void frmParserWindow::flyTreeStructure_OnSelChange(std::uint32_t node)
 {
-    if (!document_ || node == 0) return txtProperties_->ShowPropertyText("");
+    if (!document_ || node == 0) {
+        picHex_->ShowRecord(0, 0);
+        return txtProperties_->ShowPropertyText("");
+    }
     // The reader is on its way through the file in a run: bodies come when it has arrived.
     if (document_->GetNodeContents_bolUnread(node) && !IsBusy()) {
         auto failure = document_->RedirectOpenAFPFileRandom();
@@ -224,7 +260,12 @@ void frmParserWindow::flyTreeStructure_OnSelChange(std::uint32_t node)
 void frmParserWindow::ShowNode(std::uint32_t node)
 {
     txtProperties_->ShowPropertyText(document_->GetNodeContents_strContent(node));
+    picHex_->ShowRecord(document_->GetNodeContents_lngStart(node), document_->GetNodeContents_lngLength(node));
+    if (previewShown_) picViewFrame_->TurnToPageOf(node, document_->Tree().PageEnds());
 }
+
+// The pages lead to the record that ends the one that is shown.
+void frmParserWindow::SelectPageEnd(std::uint32_t node) { SelectNode(node); }
 
 void frmParserWindow::TellFailure(const FileFailure& failure)
 {
@@ -280,6 +321,7 @@ void frmParserWindow::SelectPath(const std::string& path)
 void frmParserWindow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    picHex_->SetWindowWidth(width());
     if (!isMinimized()) PlacePanes();
 }
 

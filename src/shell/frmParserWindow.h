@@ -18,15 +18,18 @@ namespace folioscope {
 
 class Divider;
 class FlyTree;
+class HexPane;
+class PreviewPane;
 class PropertyPane;
+class VEEngine;
 
-// One AFP file: its tree, its texts, and the places of the hex pane and of the preview. It forwards to a Document,
-// which has all there is to know of the file.
+// One AFP file: its tree, its texts, its bytes and its pages. It forwards to a Document, which has all there is to know
+// of the file.
 class frmParserWindow final : public QWidget, private RunHost {
     Q_OBJECT
 
 public:
-    explicit frmParserWindow(ShellState& state, QWidget* parent = nullptr);
+    frmParserWindow(ShellState& state, VEEngine& engine, QWidget* parent = nullptr);
     ~frmParserWindow() override;
 
     // Walks the file. False: there is nothing to show, and the window should go.
@@ -50,11 +53,18 @@ public:
     void SelectPath(const std::string& path);
 
     bool HasPreview() const { return previewOffered_; }
-    void SetTexts();  // of the language in force
+    bool PreviewShown() const { return previewShown_; }
+    // Shows the pages if they are hidden, and the other way round.
+    void ShowPreview();
+    PreviewPane& Pages() { return *picViewFrame_; }
+
+    void SetTexts();   // of the language in force
+    void TakeUnits();  // the units and the line width of the settings hold for all texts made from now on
 
 Q_SIGNALS:
     void StateChanged();  // what can be done with the window has changed
     void FilesDropped(const QStringList& paths);
+    void LinkNotOpened(const QString& address);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -75,6 +85,8 @@ private:
     void flyTreeStructure_OnSelChange(std::uint32_t node);
     void ShowNode(std::uint32_t node);
     void SelectNode(std::uint32_t node);
+    void SelectPageEnd(std::uint32_t node);
+    void TellOfViewer();
     void TellFailure(const FileFailure& failure);
     void PlacePanes();
     void DragTreeDivider(int position);
@@ -85,17 +97,19 @@ private:
     ShellState& state_;
     QString path_;
     std::unique_ptr<Document> document_;
+    Labels analysisTexts_;  // of the last run
     FlyTree* flyTreeStructure_;
     PropertyPane* txtProperties_;
     Divider *imgDivider_, *imgDivider2_, *imgDivider3_;
-    QFrame *picViewFrame_, *picHex_;  // filled by the viewers
+    PreviewPane* picViewFrame_;
+    HexPane* picHex_;
     QWidget* picStatusBar_;
     QProgressBar* pgbProgress_;
     QPushButton* cmdCancel_;
     QLabel *lblPageCount_, *lblSFCount_;
 
     int busy_ = 0;
-    bool previewOffered_ = false;
+    bool previewOffered_ = false, previewShown_ = false;
     std::int64_t progress_ = 0;
     int progressShift_ = 0;  // a progress bar counts in 31 bits
     std::int32_t lngSFCount_ = 0, lngPageCount_ = 0;

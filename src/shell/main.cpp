@@ -59,7 +59,6 @@ int main(int argc, char** argv)
     ShellState state;
     state.numbers = NumbersOfTheLocale();
     state.settings = ReadSettings(state.store);
-    if (IsFirstStart(state.store)) WriteSettings(state.store, state.settings);
     ReadWindowState(state);
     TakeCommandLine(state, line);
     CreateResourceLists(state.store.GetAllUsersAppDir());
@@ -67,6 +66,7 @@ int main(int argc, char** argv)
     frmMainWindow window(state);
     window.PlaceWindow();
     window.show();
+    window.AskAtFirstStart();
     if (!line.strStartFile.empty()) window.ProcessFile(QString::fromStdString(line.strStartFile));
     if (state.bolExtract) {
         window.close();
