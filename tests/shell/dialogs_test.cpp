@@ -6,7 +6,7 @@
 #include <QTest>
 
 #include "base/version.h"
-#include "shell/access_keys.h"
+#include "viewers/access_keys.h"
 #include "shell/frmFind.h"
 #include "shell/frmInformation.h"
 #include "shell/window_checks.h"
