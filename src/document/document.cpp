@@ -17,4 +17,12 @@ Document::Document(const Settings& settings, NumberStyle numbers, MessageList& m
 
 Document::~Document() = default;
 
+void Document::TakeUnits(const Settings& settings)
+{
+    settings_.DefaultMeasurement = settings.DefaultMeasurement;
+    settings_.NormalLineWidth = settings.NormalLineWidth;
+    renderer_->lines.NormalLineWidth = settings_.LineWidth();
+    memo_ = {};  // its texts are in the units that counted before
+}
+
 }  // namespace folioscope

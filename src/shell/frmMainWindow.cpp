@@ -17,7 +17,7 @@
 
 #include "base/settings_store.h"
 #include "base/text.h"
-#include "shell/access_keys.h"
+#include "viewers/access_keys.h"
 #include "shell/dropped_files.h"
 #include "shell/frmFind.h"
 #include "shell/frmInformation.h"

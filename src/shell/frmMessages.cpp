@@ -16,7 +16,7 @@
 #include <utility>
 #include <vector>
 
-#include "shell/access_keys.h"
+#include "viewers/access_keys.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {

@@ -13,7 +13,7 @@
 #include <QTextDocument>
 #include <QTextOption>
 
-#include "shell/access_keys.h"
+#include "viewers/access_keys.h"
 #include "shell/dropped_files.h"
 #include "shell/marked_colours.h"
 #include "shell/open_in_browser.h"

@@ -37,6 +37,13 @@ bool RecordReader::Load(std::int32_t filePosition, std::int32_t size)
     return !failure_;
 }
 
+void RecordReader::FollowWalk(const RecordReader& walk)
+{
+    strAFPFile_ = walk.strAFPFile_;
+    framing_ = walk.framing_;
+    lngFileSize_ = walk.lngFileSize_;
+}
+
 Status RecordReader::OpenAFPFile()
 {
     framing_ = {};

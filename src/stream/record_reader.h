@@ -37,7 +37,7 @@ struct Framing {
 //
 // A walk is SetFile, OpenAFPFile, GetNextRecord2 until kNoFurtherRecord, CloseAFPFile. Then single records can be
 // read again: OpenAFPFileRandom, SetNextRecord, CloseAFPFile, with the framing that the walk has found. A walk
-// doesn't go on from a jump.
+// doesn't go on from a jump. While one goes on, a second reader that was told to FollowWalk reads single records.
 class RecordReader {
 public:
     static constexpr std::int32_t kChunkSize = 10'240'000;
@@ -48,6 +48,8 @@ public:
     RecordReader();
 
     void SetFile(std::string path) { strAFPFile_ = std::move(path); }
+    // Takes the file, its size and its framing from a reader that has opened it for a walk.
+    void FollowWalk(const RecordReader& walk);
     const std::string& File() const { return strAFPFile_; }
 
     Status OpenAFPFile();

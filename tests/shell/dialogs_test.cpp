@@ -6,10 +6,10 @@
 #include <QTest>
 
 #include "base/version.h"
-#include "shell/access_keys.h"
 #include "shell/frmFind.h"
 #include "shell/frmInformation.h"
-#include "shell/window_checks.h"
+#include "support/window_checks.h"
+#include "viewers/access_keys.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {

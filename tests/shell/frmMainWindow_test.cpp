@@ -21,9 +21,9 @@
 #include "shell/frmParserWindow.h"
 #include "shell/icons.h"
 #include "shell/main_commands.h"
-#include "shell/window_checks.h"
 #include "support/afp_builder.h"
 #include "support/temporary_file.h"
+#include "support/window_checks.h"
 
 namespace folioscope {
 namespace {

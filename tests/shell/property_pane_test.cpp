@@ -15,7 +15,7 @@
 #include "analysis/render/property_text.h"
 #include "shell/marked_colours.h"
 #include "shell/open_in_browser.h"
-#include "shell/window_checks.h"
+#include "support/window_checks.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {
