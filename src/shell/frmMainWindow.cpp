@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -14,6 +15,9 @@
 #include <QScreen>
 #include <QToolBar>
 #include <QToolButton>
+
+#include <algorithm>
+#include <array>
 
 #include "base/settings_store.h"
 #include "base/text.h"
@@ -28,6 +32,7 @@
 #include "shell/main_commands.h"
 #include "shell/website.h"
 #include "viewers/frmOptions.h"
+#include "viewers/page_frame_engine.h"
 #include "viewers/preview_pane.h"
 #include "viewers/qt_text.h"
 
@@ -35,6 +40,7 @@ namespace folioscope {
 
 namespace {
 
+constexpr char kProgram[] = "Folioscope";
 constexpr int kTwips = 15;  // a pixel
 constexpr int kZoomStep = 10;  // percent
 
@@ -59,10 +65,12 @@ frmMainWindow::frmMainWindow(ShellState& state, QWidget* parent)
     : QMainWindow(parent), state_(state), area_(new QMdiArea(this)), tlbMenu_(new QToolBar(this)),
       listener_(new QObject(this)),
       messages_(std::make_unique<frmMessages>(state.messages, state.settings, state.InterfaceTexts())),
-      options_(std::make_unique<frmOptions>(state.store, state.settings, QCoreApplication::applicationDirPath(), this))
+      options_(std::make_unique<frmOptions>(state.store, state.settings, QCoreApplication::applicationDirPath(), this)),
+      engine_(std::make_unique<PageFrameEngine>(
+          EngineSetup{this, kProgram, QDir::tempPath(), [this] { return state_.InterfaceTexts(); }}))
 {
     setObjectName("frmMainWindow");
-    setWindowTitle("Folioscope");
+    setWindowTitle(kProgram);
     setAcceptDrops(true);
     setCentralWidget(area_);
     area_->setObjectName("mdiArea");
@@ -222,6 +230,7 @@ void frmMainWindow::StartProcess(const QString& path)
 void frmMainWindow::OpenHere(const QString& path)
 {
     auto* const document = new frmParserWindow(state_);
+    document->Pages().SetEngine(engine_.get(), this, kProgram);
     QMdiSubWindow* const window = area_->addSubWindow(document);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowTitle(path);
@@ -334,6 +343,12 @@ void frmMainWindow::tlbCancel()
 }
 
 // ------------------------------------------------------------------------------------------------------------ preview
+
+template <class... Parameters, class... Arguments>
+void frmMainWindow::ActOnPages(void (PreviewPane::*operation)(Parameters...), Arguments... arguments)
+{
+    if (frmParserWindow* const document = ActiveDocument()) (document->Pages().*operation)(arguments...);
+}
 
 void frmMainWindow::tlbPreview()
 {

@@ -21,12 +21,13 @@ namespace folioscope {
 class frmMessages;
 class frmOptions;
 class frmParserWindow;
+class PreviewPane;
 
 // Starts a copy of the program with these arguments. True if it started.
 using ProcessStarter = std::function<bool(const QStringList& arguments)>;
 
 // The frame of the process: menus, toolbar and at most one document. Nearly all commands act on the document.
-class frmMainWindow final : public QMainWindow, private IVEDisplayMachineCallback {
+class frmMainWindow final : public QMainWindow, public IVEDisplayMachineCallback {
     Q_OBJECT
 
 public:
@@ -107,6 +108,7 @@ private:
     QObject* listener_;  // on whose behalf the window hears of its documents
     std::unique_ptr<frmMessages> messages_;
     std::unique_ptr<frmOptions> options_;
+    std::unique_ptr<PreviewEngine> engine_;  // outlives the documents
     std::vector<QAction*> commands_;  // in the order of their table
     std::vector<QMenu*> menus_;
     QAction* mnuDivider10_ = nullptr;

@@ -16,12 +16,14 @@
 #include "viewers/hex_pane.h"
 #include "viewers/preview_pane.h"
 #include "viewers/qt_text.h"
+#include "viewers/ve_view.h"
 
 namespace folioscope {
 
 namespace {
 
 constexpr int kSmallest = 601;  // pixels: narrower ones are refused
+constexpr int kLowestHex = 925 / 15;  // pixels
 constexpr int kShowEvery = 50;  // milliseconds between two looks at what an operation has done
 
 template <class Control> Control* Named(Control* control, const char* name)
@@ -32,13 +34,13 @@ template <class Control> Control* Named(Control* control, const char* name)
 
 }  // namespace
 
-frmParserWindow::frmParserWindow(ShellState& state, VEEngine& engine, QWidget* parent)
+frmParserWindow::frmParserWindow(ShellState& state, QWidget* parent)
     : QWidget(parent), state_(state), analysisTexts_(state.settings.AnalysisLanguage()), flyTreeStructure_(Named(new FlyTree(this), "flyTreeStructure")),
       txtProperties_(Named(new PropertyPane(state.InterfaceTexts(), this), "txtProperties")),
       imgDivider_(Named(new Divider(Qt::Horizontal, this), "imgDivider")),
       imgDivider2_(Named(new Divider(Qt::Horizontal, this), "imgDivider2")),
       imgDivider3_(Named(new Divider(Qt::Vertical, this), "imgDivider3")),
-      picViewFrame_(Named(new PreviewPane(engine, this), "picViewFrame")),
+      picViewFrame_(Named(new PreviewPane(this), "picViewFrame")),
       picHex_(Named(new HexPane(state.settings.Codepage, state.InterfaceTexts(), this), "picHex")),
       picStatusBar_(MakeStatusBar())
 {
@@ -54,6 +56,8 @@ frmParserWindow::frmParserWindow(ShellState& state, VEEngine& engine, QWidget* p
     connect(txtProperties_, &PropertyPane::LinkNotOpened, this, &frmParserWindow::LinkNotOpened);
     connect(picViewFrame_, &PreviewPane::PageEndWanted, this, &frmParserWindow::SelectPageEnd);
     connect(picViewFrame_, &PreviewPane::Failed, this, &frmParserWindow::TellOfViewer);
+    picViewFrame_->pageEnds = [this] { return document_ ? &document_->Tree().PageEnds() : nullptr; };
+    picViewFrame_->isSearchTermEmpty = [this] { return state_.find.strSearch.empty(); };
     connect(cmdCancel_, &QPushButton::clicked, this, &frmParserWindow::cmdCancel_Click);
     connect(imgDivider_, &Divider::Dragged, this, &frmParserWindow::DragTreeDivider);
     connect(imgDivider2_, &Divider::Dragged, this, &frmParserWindow::DragPreviewDivider);
@@ -152,15 +156,25 @@ void frmParserWindow::Counters(std::int32_t lngSFCount, std::int32_t lngPageCoun
 }
 
 // What the operation has done so far is shown now and then: showing it each time would cost more than the operation.
+void frmParserWindow::ShowProgress()
+{
+    if (!shown_.hasExpired(kShowEvery)) return;
+    pgbProgress_->setValue(static_cast<int>(progress_ >> progressShift_));
+    ShowCounters();
+    flyTreeStructure_->Refresh();
+    shown_.start();
+}
+
 void frmParserWindow::GiveWay()
 {
-    if (shown_.hasExpired(kShowEvery)) {
-        pgbProgress_->setValue(static_cast<int>(progress_ >> progressShift_));
-        ShowCounters();
-        flyTreeStructure_->Refresh();
-        shown_.start();
-    }
+    ShowProgress();
     QCoreApplication::processEvents();
+}
+
+void frmParserWindow::KeepAlive()
+{
+    ShowProgress();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void frmParserWindow::OperationEnds()
@@ -201,7 +215,7 @@ void frmParserWindow::ShowPreview()
     picViewFrame_->setVisible(previewShown_);
     imgDivider2_->setVisible(previewShown_);
     PlacePanes();
-    if (previewShown_ && !picViewFrame_->Open(path_, state_.settings.UseAutoRotation == 1)) TellOfViewer();
+    if (previewShown_) picViewFrame_->Open(path_, state_.settings.UseAutoRotation == 1);
     Q_EMIT StateChanged();
 }
 
@@ -209,7 +223,7 @@ void frmParserWindow::TellOfViewer()
 {
     state_.messages.addMessage(
         MessageSource::General, MessageSeverity::Information,
-        state_.InterfaceTexts()[U("Sorry, this file can't be displayed currently due to a problem in the viewer!")], false);
+        state_.InterfaceTexts()[kViewerProblem], false);
 }
 
 void frmParserWindow::MessageBox(BoxIcon icon, std::string_view title, std::string_view text)
@@ -246,8 +260,7 @@ void frmParserWindow::flyTreeStructure_OnSelChange(std::uint32_t node)
         picHex_->ShowRecord(0, 0);
         return txtProperties_->ShowPropertyText("");
     }
-    // The reader is on its way through the file in a run: bodies come when it has arrived.
-    if (document_->GetNodeContents_bolUnread(node) && !IsBusy()) {
+    if (document_->GetNodeContents_bolUnread(node)) {
         auto failure = document_->RedirectOpenAFPFileRandom();
         if (!failure) failure = document_->LookupMissingData(node);
         document_->RedirectCloseAFPFile();
@@ -332,7 +345,8 @@ void frmParserWindow::PlacePanes()
     int bottom = height() - status;
     picStatusBar_->setGeometry(0, bottom, inner, status);
     if (!picHex_->isHidden()) {
-        const int hex = static_cast<int>(panes.HexWindowHeight * static_cast<float>(height()) / 100);
+        const int wanted = static_cast<int>(panes.HexWindowHeight * static_cast<float>(height()) / 100);
+        const int hex = std::max(wanted, kLowestHex);
         picHex_->setGeometry(0, bottom - hex, inner, hex);
         bottom -= hex + Divider::kThickness;
         imgDivider3_->setGeometry(0, bottom, inner, Divider::kThickness);

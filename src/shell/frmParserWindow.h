@@ -21,7 +21,6 @@ class FlyTree;
 class HexPane;
 class PreviewPane;
 class PropertyPane;
-class VEEngine;
 
 // One AFP file: its tree, its texts, its bytes and its pages. It forwards to a Document, which has all there is to know
 // of the file.
@@ -29,7 +28,7 @@ class frmParserWindow final : public QWidget, private RunHost {
     Q_OBJECT
 
 public:
-    frmParserWindow(ShellState& state, VEEngine& engine, QWidget* parent = nullptr);
+    explicit frmParserWindow(ShellState& state, QWidget* parent = nullptr);
     ~frmParserWindow() override;
 
     // Walks the file. False: there is nothing to show, and the window should go.
@@ -76,6 +75,7 @@ private:
     void Progress(std::int64_t lngValue) override;
     void Counters(std::int32_t lngSFCount, std::int32_t lngPageCount) override;
     void GiveWay() override;
+    void KeepAlive() override;
     void OperationEnds() override;
     void RunFinished() override;
     void PreviewOffered() override;
@@ -93,6 +93,7 @@ private:
     void DragPreviewDivider(int position);
     void DragHexDivider(int position);
     void ShowCounters();
+    void ShowProgress();
 
     ShellState& state_;
     QString path_;

@@ -30,7 +30,7 @@ namespace {
 
 using namespace test;
 
-constexpr char kNoDocument[] = "mnuFileOpen mnuFileExit mnuHelpHelp mnuHelpWebsite mnuHelpAbout";
+constexpr char kNoDocument[] = "mnuFileOpen mnuFileExit mnuExtrasOptions mnuHelpHelp mnuHelpWebsite mnuHelpAbout";
 
 Bytes Letter()
 {
@@ -158,9 +158,9 @@ void FrmMainWindowTest::withADocumentOffersItsCommands()
     for (const char* const name :
          {"mnuFileClose", "mnuFileReload", "mnuFileSaveDump", "mnuFileSaveDumpAs", "mnuEditFind", "mnuEditFindNext",
           "mnuEditTreeExpand", "mnuEditTreeCollapse", "mnuWindowsCascade", "mnuWindowsTileVertical",
-          "mnuWindowsTileHorizontal", "mnuWindowsCloseAll", "tlbExtractResource"})
+          "mnuWindowsTileHorizontal", "mnuWindowsCloseAll", "mnuExtrasOptions", "tlbPreview", "tlbExtractResource"})
         QVERIFY2(Command(name)->isEnabled(), name);
-    for (const char* const name : {"mnuWindowsMessages", "tlbCancel", "tlbPreview"})
+    for (const char* const name : {"mnuWindowsMessages", "tlbCancel"})
         QVERIFY2(!Command(name)->isEnabled(), name);
 }
 
