@@ -42,8 +42,8 @@ frmCodepage::frmCodepage(QWidget* parent)
     connect(buttons, &QDialogButtonBox::accepted, this, &frmCodepage::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &frmCodepage::reject);
     connect(lstCodepage_, &QListWidget::itemDoubleClicked, this, &frmCodepage::accept);
-    connect(lstCodepage_, &QListWidget::currentItemChanged, this,
-            [this](const QListWidgetItem* current) { btnOK_->setEnabled(current != nullptr); });
+    connect(lstCodepage_, &QListWidget::itemSelectionChanged, this,
+            [this] { btnOK_->setEnabled(!lstCodepage_->selectedItems().isEmpty()); });
 }
 
 void frmCodepage::SetCaptions(const QString& window, const QString& frame, const QString& ok, const QString& cancel)
@@ -76,9 +76,9 @@ void frmCodepage::Init(std::int32_t codepage)
 
 void frmCodepage::accept()
 {
-    const QListWidgetItem* const item = lstCodepage_->currentItem();
-    if (item == nullptr) return;
-    result_ = item->data(Qt::UserRole).toInt();
+    const auto chosen = lstCodepage_->selectedItems();
+    if (chosen.isEmpty()) return;
+    result_ = chosen.constFirst()->data(Qt::UserRole).toInt();
     QDialog::accept();
 }
 

@@ -189,8 +189,7 @@ void frmOptions::SetAccessKeys()
 QList<QWidget*> frmOptions::PartsOf(const QWidget& page) const
 {
     QList<QWidget*> parts = page.findChildren<QWidget*>();
-    std::ranges::stable_sort(parts, std::ranges::greater(),
-                             [](const QWidget* part) { return !AccessKeysOf({const_cast<QWidget*>(part)}).isEmpty(); });
+    std::ranges::stable_partition(parts, [](QWidget* part) { return !AccessKeysOf({part}).isEmpty(); });
     return parts;
 }
 

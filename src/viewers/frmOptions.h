@@ -3,6 +3,7 @@
 #include <QDialog>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "base/clsSillyFunctions.h"

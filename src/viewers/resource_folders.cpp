@@ -6,8 +6,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include <utility>
-
 #include "viewers/qt_text.h"
 
 namespace folioscope {
