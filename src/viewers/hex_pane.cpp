@@ -328,15 +328,18 @@ int HexPane::SheetWidth() const
 void HexPane::TakeFont()
 {
     for (HexTextPane* const pane : panes_) pane->setFont(FixedFont(font()));
-    const int frame = 2 * sheet_->frameWidth(), combo = cmbHexCodepage_->sizeHint().height();
+    const int frame = 2 * FrameWidth(), combo = cmbHexCodepage_->sizeHint().height();
     setMinimumHeight(std::max(kLowest, combo + 3 * kEdge + frame + PaneOf(Byte).LineHeight()));
     Place();
 }
 
+// At some scales the lower line of the frame is painted a little further in.
+int HexPane::FrameWidth() const { return sheet_->frameWidth() + 1; }
+
 // The combo box above, the sheet with the columns below it, and beside the sheet its scroll bar.
 void HexPane::Place()
 {
-    const int bar = sclHex_->sizeHint().width(), frame = sheet_->frameWidth();
+    const int bar = sclHex_->sizeHint().width(), frame = FrameWidth();
     const int top = cmbHexCodepage_->sizeHint().height() + 2 * kEdge;
     const int wide = std::min(SheetWidth() + 2 * frame, std::max(width() - bar - 2 * kEdge, 0));
     const int high = std::max(height() - top - kEdge, 0);
@@ -369,7 +372,7 @@ void HexPane::PlaceColumns()
     place(Byte, kColumnGapTwips / kTwipsPerPixel);
     place(Text, 0);
 
-    const int edge = sheet_->x() + sheet_->frameWidth();
+    const int edge = sheet_->x() + FrameWidth();
     const int right = edge + std::min(left, picHexArea_->width());
     const int wide = std::min(cmbHexCodepage_->sizeHint().width(), std::max(right - edge, 0));
     cmbHexCodepage_->setGeometry(right - wide, kEdge, wide, cmbHexCodepage_->sizeHint().height());

@@ -74,6 +74,7 @@ private:
     void PlaceScrollBar();
     int ColumnWidth(HexColumn column) const;
     int SheetWidth() const;
+    int FrameWidth() const;
     int VisibleLines() const;
     int LineCount() const;
     HexTextPane& PaneOf(HexColumn column) const { return *panes_[static_cast<std::size_t>(column)]; }
