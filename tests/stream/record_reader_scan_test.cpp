@@ -192,7 +192,7 @@ TEST_F(RecordReaderPauses, CanEndTheOpening)
 
 TEST_F(RecordReaderPauses, LetTheOpeningGoOn)
 {
-    reader_.SetFile(folder_.File("pause.afp", Zeros(25'000'000) + Record(16) + "\r\n" + Record(16) + "\r\n"));
+    reader_.SetFile(folder_.File("pause.afp", Zeros(9'000'000) + Record(16) + "\r\n" + Record(16) + "\r\n"));
     bool paused = false;
     int pauses = 0;
     reader_.onScan = [&](std::int32_t) { return paused = true, ++pauses, false; };
