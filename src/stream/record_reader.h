@@ -53,6 +53,8 @@ public:
     const std::string& File() const { return strAFPFile_; }
 
     Status OpenAFPFile();
+    // Goes on with the search for the first record where onScan has ended it.
+    Status GoOnOpening();
     Status GetNextRecord2();
     // The file may have changed since its bytes were read, so none of them are trusted.
     FileFailure OpenAFPFileRandom()
@@ -88,6 +90,7 @@ private:
     bool Load(std::int32_t filePosition, std::int32_t size);
     bool CanRefill() const { return std::int64_t{lngBufferFilePos_} + kChunkSize <= lngFileSize_; }
     void DetectPrefix();
+    Status FindFirst();
     void DetectDelimiter();
     bool FindRecord();
     bool SkipNoise();
@@ -110,7 +113,8 @@ private:
     std::int32_t valid_ = 0;     // bytes of the file in the buffer
     std::int32_t readable_ = 0;  // the same and the zeros behind them
     std::int32_t nextPause_ = 0;
-    bool astray_ = false;  // the buffer's bytes aren't those that its file position tells
+    std::int32_t sought_ = 0;  // bytes that the search for the first record has passed
+    bool astray_ = false;      // the buffer's bytes aren't those that its file position tells
 };
 
 }  // namespace folioscope
