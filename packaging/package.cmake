@@ -14,6 +14,16 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_INSTALL_CMAKE_PROJECTS
     "${PROJECT_BINARY_DIR};${PROJECT_NAME};ALL;/;${PROJECT_BINARY_DIR};${PROJECT_NAME};debian;/")
 
+# Stripping leaves the compiler's name in the programs.
+foreach(program fsv fsv-dump)
+  set(file "\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/${program}")
+  install(CODE "
+    if(EXISTS \"${file}\")
+      execute_process(COMMAND ${CMAKE_STRIP} --remove-section=.comment \"${file}\" COMMAND_ERROR_IS_FATAL ANY)
+    endif()"
+    COMPONENT debian EXCLUDE_FROM_ALL)
+endforeach()
+
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
