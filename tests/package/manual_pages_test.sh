@@ -11,11 +11,11 @@ for name in fsv fsv-dump; do
 done
 
 # The heads of the page's paragraphs, and the words that begin a line of the program's help.
-told() { mandoc -T ascii "$BUILD/packaging/$1.1" | col -b | grep -oE "^ {5,9}$2" | tr -d ' ' | sort -u; }
+told() { mandoc -T ascii "$BUILD/packaging/$1.1" | sed 's/.\x08//g' | grep -oE "^ {5,9}$2" | tr -d ' ' | sort -u; }
 
 help=$("$BUILD/tools/fsv-dump" --help)
 same "options of fsv-dump" "$(grep -oE '^ .{5}--[a-z-]+' <<<"$help" | sed 's/^.*--/--/' | sort)" \
-    "$(mandoc -T ascii "$BUILD/packaging/fsv-dump.1" | col -b | grep -E '^ {5,9}-' | grep -oE -- '--[a-z-]+' | sort)"
+    "$(mandoc -T ascii "$BUILD/packaging/fsv-dump.1" | sed 's/.\x08//g' | grep -E '^ {5,9}-' | grep -oE -- '--[a-z-]+' | sort)"
 same "short options of fsv-dump" "$(grep -oE '^  -[a-zA-Z]' <<<"$help" | tr -d ' ' | sort)" "$(told fsv-dump '-[a-zA-Z]\b')"
 for status in 0 1 2 3 4; do
     grep -qE "^.B $status$" "$BUILD/packaging/fsv-dump.1" || fail "status $status is not told"
