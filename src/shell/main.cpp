@@ -53,6 +53,7 @@ int main(int argc, char** argv)
     if (line.version) return std::printf("Folioscope %s\n", std::string(kVersion).c_str()) < 0 ? 1 : 0;
     QApplication application(argc, argv);
     QApplication::setApplicationName("Folioscope");
+    QApplication::setDesktopFileName("example.marrowgate.folioscope");
     InitResources();
     QApplication::setWindowIcon(ProgramIcon());
 
