@@ -1,0 +1,263 @@
+#!/usr/bin/env python3
+"""The desktop program on a real screen: what a user sees, and does with the keyboard.
+
+    real_window_test.py FSV FSV_DUMP SOURCE_FOLDER PICTURE_FOLDER [TEST...]
+"""
+
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+from desktop_program import LANGUAGES, Home, Program, catalog
+from x_screen import Screen, wait_for
+
+FSV, FSV_DUMP, SOURCES, PICTURES = sys.argv[1:5]
+WORDS = catalog(os.path.join(SOURCES, "src/base/catalog.tsv"))
+
+
+def read(path):
+    with open(path, "rb") as file:
+        return file.read()
+
+
+def dump(*arguments):
+    run = subprocess.run([FSV_DUMP, *arguments], capture_output=True, check=False)
+    return run.stdout.decode()
+
+
+class Row:
+    """A line of the tree as the batch tool prints it: level, caption, start byte (none: a folder)."""
+
+    def __init__(self, line):
+        caption, start = line.split("\t")[:2]
+        self.text = caption.lstrip(" ")
+        self.level = (len(caption) - len(self.text)) // 2
+        self.start = int(start) if start else None
+
+
+class RealWindow(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory(prefix="window.")
+        self.addCleanup(folder.cleanup)
+        self.folder = folder.name
+        # One bundled sample has pages and text, the other one faults.
+        self.sample = os.path.join(self.folder, "sample.afp")
+        with open(self.sample, "wb") as file:
+            file.write(read(os.path.join(SOURCES, "samples/statement.afp")))
+            file.write(read(os.path.join(SOURCES, "samples/damaged.afp")))
+        self.rows = [Row(line) for line in dump("--tree", self.sample).splitlines()]
+        self.pictures = 0
+
+    def start(self, name, language="en", screen=(1280, 900), dark=False, environment=None, **settings):
+        self.name = name
+        self.words = {english: texts[language] for english, texts in WORDS.items()}
+        home = os.path.join(self.folder, name)
+        os.mkdir(home)
+        self.home = Home(home, Language=LANGUAGES[language], **settings)
+        self.screen = Screen(*screen)
+        self.addCleanup(self.screen.close)
+        look = {**(self.home.be_dark() if dark else {}), **(environment or {})}
+        self.program = Program(FSV, self.screen, self.home, [self.sample], look)
+        self.addCleanup(self.program.close)
+        wait_for("the file's name in the title", lambda: self.sample in self.program.title())
+        self.program.to_front()
+        self.at_root()
+
+    def quit(self):
+        self.program.to_front()
+        self.screen.keys("ctrl+q")
+        self.assertEqual(self.program.end(), 0, self.program.said())
+        self.assertEqual(self.program.said(), "")
+
+    # ------------------------------------------------------------------------------------------------- what is seen
+
+    def look(self, step):
+        """The main window as it looks now; the screen is kept as a picture for people."""
+        whole = self.screen.settled()
+        self.pictures += 1
+        whole.save(os.path.join(PICTURES, f"{self.name}-{self.pictures}-{step}.png"))
+        return whole.part(*self.screen.place(self.program.window))
+
+    def wait_for_news(self, part, before):
+        """The part of the main window, when it isn't as before any more."""
+        def shown():
+            return part(self.screen.picture().part(*self.screen.place(self.program.window)))
+
+        wait_for("another picture", lambda: shown() != part(before))
+        self.screen.settled()
+        return shown()
+
+    @staticmethod
+    def tree_of(window):
+        return window.part(0, window.height // 14, window.width * 28 // 100, window.height * 6 // 7)
+
+    @staticmethod
+    def texts_of(window):
+        left = window.width * 2 // 5
+        return window.part(left, window.height // 6, window.width - left - 20, window.height * 3 // 4)
+
+    def at_root(self):
+        return self.program.properties(lambda text: self.sample in text.split("\n")[0])
+
+    def at(self, row):
+        """The text of a record, which tells by its start byte that it is this one."""
+        return self.program.properties(
+            lambda text: len(text.split("\n")) > 1 and text.split("\n")[1].split("\t")[-1].split(" ")[0] == str(row.start))
+
+    def row(self, caption):
+        return next(i for i, row in enumerate(self.rows) if row.text.startswith(caption))
+
+    # ---------------------------------------------------------------------------------------------- what a user does
+
+    def walk_by_keys(self):
+        root = self.look("root")
+        self.assertGreater(len(root.colours()), 20)
+        self.screen.keys("Down")
+        self.wait_for_news(self.tree_of, root)
+        self.look("folder")
+        self.screen.keys("Right", "Right")
+        self.at(self.rows[self.row("BPF")])
+        self.screen.keys("Home")
+        self.at_root()
+
+    def expand_and_type(self):
+        closed = self.look("closed")
+        self.screen.keys("Home", "ctrl+e", "End")
+        last = max(i for i, row in enumerate(self.rows) if row.start)
+        self.assertEqual(last, len(self.rows) - 1)
+        self.at(self.rows[last])
+        self.wait_for_news(self.tree_of, closed)
+        self.look("expanded")
+        steps = self.row("IMM")
+        self.screen.keys("Home", *["Down"] * steps)
+        self.at(self.rows[steps])
+        self.screen.keys("Home")
+        self.screen.write("tle")
+        self.at(self.rows[self.row("TLE")])
+
+    def find(self):
+        """Each hit: a text that only a reading of the record's body brings, and no further one."""
+        self.screen.keys("Home", "ctrl+f")
+        dialog = self.program.wait_for_window(f"^{self.words['Find String']}$")
+        self.screen.focus(dialog)
+        self.look("find")
+        self.screen.write("balance carried")
+        self.screen.keys("Return")
+        self.program.wait_till_gone(f"^{self.words['Find String']}$")
+        self.program.to_front()
+        hit = next(row for row in self.rows[self.row("Page 2"):] if row.text == "PTX")
+        self.assertIn("Balance carried forward", self.at(hit))
+        self.look("found")
+        self.screen.keys("F3")
+        box = self.program.wait_for_window("^Information$")
+        self.screen.focus(box)
+        self.look("no-more")
+        self.screen.keys("Return")
+        self.program.wait_till_gone("^Information$")
+        self.program.to_front()
+        self.at(hit)
+
+    def read_messages(self):
+        self.screen.keys("ctrl+m")
+        window = self.program.wait_for_window(f"^{self.words['Messages']}$")
+        self.screen.focus(window)
+        self.look("messages")
+        told = subprocess.run([FSV_DUMP, "--messages", "--language", self.language(), "-o", os.devnull, self.sample],
+                              capture_output=True, check=False).stderr.decode().splitlines()
+        descriptions = [line.split("\t")[-1].strip() for line in told]
+        self.assertGreater(len(descriptions), 2)
+
+        def copied():
+            self.screen.keys("ctrl+a", "ctrl+c")
+            return [line.split("\t")[-1].strip() for line in self.screen.clipboard().splitlines()] == descriptions
+
+        wait_for("the messages on the clipboard", copied)
+        self.screen.keys("Escape")
+        self.program.wait_till_gone(f"^{self.words['Messages']}$")
+        self.program.to_front()
+
+    def language(self):
+        return next(code for code, number in LANGUAGES.items() if number == self.home.settings()["Language"])
+
+    def save_dump(self):
+        self.screen.keys("ctrl+s")
+        box = self.program.wait_for_window("^Information$")
+        self.screen.focus(box)
+        self.look("saved")
+        self.screen.keys("Return")
+        self.program.wait_till_gone("^Information$")
+        self.program.to_front()
+        expected = os.path.join(self.folder, "expected.txt")
+        dump("--language", self.language(), "-o", expected, self.sample)
+        self.assertEqual(read(self.sample + ".txt"), read(expected))
+        self.assertGreater(len(read(expected)), 2000)
+
+    def collapse(self):
+        self.screen.keys("ctrl+shift+e", "End")
+        self.at_root()
+
+    def walk(self, name, language, **options):
+        self.start(name, language, **options)
+        self.walk_by_keys()
+        self.expand_and_type()
+        self.find()
+        self.read_messages()
+        self.save_dump()
+        self.collapse()
+        self.quit()
+        settings = self.home.settings()
+        self.assertEqual(settings["LastFilesList1"], self.sample)
+        self.assertEqual(settings["Language"], LANGUAGES[language])
+
+    # -------------------------------------------------------------------------------------------------------- tests
+
+    def test_english(self):
+        self.walk("english", "en")
+
+    def test_german(self):
+        self.walk("german", "de")
+
+    def test_french(self):
+        self.walk("french", "fr")
+
+    def test_dark(self):
+        self.start("light")
+        light = self.look("root")
+        self.quit()
+        self.start("dark", "de", dark=True)
+        dark = self.look("root")
+        for part in (self.tree_of, self.texts_of):
+            self.assertGreater(part(light).lightness(), 200)
+            self.assertLess(part(dark).lightness(), 60)
+        self.find()
+        self.screen.keys("Home", "ctrl+e", "End")
+        self.look("expanded")
+        self.read_messages()
+        self.quit()
+
+    def row_height(self):
+        """Of the tree, in pixels of the screen: the selection on its way down one row changes two of them."""
+        self.screen.keys("Home")
+        self.at_root()
+        first = self.look("first-row")
+        self.screen.keys("Down")
+        changed = self.tree_of(first).changed_rows(self.wait_for_news(self.tree_of, first))
+        return (changed[-1] - changed[0] + 1) / 2
+
+    def test_scale(self):
+        self.start("scale-1", "fr")
+        single = self.row_height()
+        self.quit()
+        self.start("scale-2", "fr", screen=(2560, 1800), environment={"QT_SCALE_FACTOR": "2"})
+        double = self.row_height()
+        self.assertAlmostEqual(double / single, 2, delta=0.15)
+        self.find()
+        self.read_messages()
+        self.quit()
+
+
+if __name__ == "__main__":
+    os.makedirs(PICTURES, exist_ok=True)
+    unittest.main(argv=[sys.argv[0], *sys.argv[5:]], verbosity=2)
