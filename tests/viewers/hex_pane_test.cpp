@@ -1,143 +1,16 @@
 #include "viewers/hex_pane.h"
 
-#include <QAccessible>
-#include <QApplication>
-#include <QClipboard>
-#include <QComboBox>
-#include <QFile>
-#include <QScrollBar>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTextBlock>
-#include <QWheelEvent>
-
-#include <memory>
+#include <sys/stat.h>
 
 #include "shell/window_checks.h"
-#include "viewers/hex_text_pane.h"
+#include "viewers/hex_pane_support.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {
+
+using namespace test;
+
 namespace {
-
-using enum HexColumn;
-
-const Labels kEnglish(Language::English);
-constexpr int kWindowWidths[] = {600, 807, 1040};  // in pixels: the narrowest of each number of bytes but the first
-constexpr int kWide = 1200, kHigh = 200;
-constexpr int kLatin = 1252, kInternational = 500;
-
-QByteArray Counting(int count)
-{
-    QByteArray bytes;
-    for (int i = 0; i < count; ++i) bytes += static_cast<char>(i * 7 + i / 256);
-    return bytes;
-}
-
-QString DigitsOf(const QByteArray& bytes) { return QString::fromLatin1(bytes.toHex(' ').toUpper()); }
-
-struct Look {
-    bool bold;
-    QColor colour;  // invalid: that of the palette
-};
-
-Look LookAt(const QPlainTextEdit& pane, int position)
-{
-    QTextCursor cursor(pane.document());
-    cursor.setPosition(position + 1);
-    const QTextCharFormat format = cursor.charFormat();
-    const bool coloured = format.foreground().style() != Qt::NoBrush;
-    return {format.fontWeight() == QFont::Bold, coloured ? format.foreground().color() : QColor()};
-}
-
-// The characters that are bold, without line ends and blanks; each must be red, and no other may be.
-QString MarkedIn(const QPlainTextEdit& pane, const QColor& red)
-{
-    QString marked;
-    const QString text = pane.toPlainText();
-    for (int i = 0; i < text.size(); ++i) {
-        if (text[i].isSpace()) continue;
-        const Look look = LookAt(pane, i);
-        if (look.bold != (look.colour == red)) return QStringLiteral("red and bold differ at %1").arg(i);
-        if (look.bold) marked += text[i];
-    }
-    return marked;
-}
-
-class Shown {
-public:
-    explicit Shown(const QByteArray& content, int windowWidth = 600, int codepage = kLatin)
-        : pane(codepage, kEnglish, nullptr)
-    {
-        Write(content);
-        pane.SetFile(Path());
-        pane.SetWindowWidth(windowWidth);
-        pane.resize(kWide, kHigh);
-        pane.show();
-    }
-
-    QString Path() const { return folder_.filePath(QStringLiteral("a.afp")); }
-    void Write(const QByteArray& content) const
-    {
-        QFile file(Path());
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
-
-    template <class Part> Part& Find(const char* name) { return *pane.findChild<Part*>(QLatin1String(name)); }
-    HexTextPane& Pos() { return Find<HexTextPane>("rtfHexPos"); }
-    HexTextPane& Hex() { return Find<HexTextPane>("rtfHexHex"); }
-    HexTextPane& Ascii() { return Find<HexTextPane>("rtfHexAscii"); }
-    std::array<HexTextPane*, 3> Panes() { return {&Pos(), &Hex(), &Ascii()}; }
-    QScrollBar& Bar() { return Find<QScrollBar>("sclHex"); }
-    QComboBox& Pages() { return Find<QComboBox>("cmbHexCodepage"); }
-    QWidget& Area() { return Find<QWidget>("picHexArea"); }
-
-    void Key(HexTextPane& column, Qt::Key key) { QTest::keyClick(&column, key); }
-
-    // The pane's byte is selected in the three columns, and can be seen in them at the same height.
-    bool ShowsByte(std::int32_t byte)
-    {
-        const int bpl = pane.HexBytesPerLine(), line = byte / bpl, column = byte % bpl;
-        const auto selects = [&](const HexTextPane& of, int at, int length) {
-            const QTextCursor cursor = of.textCursor();
-            return cursor.selectionStart() == of.document()->findBlockByNumber(line).position() + at &&
-                   cursor.selectionEnd() - cursor.selectionStart() == length;
-        };
-        return pane.HexCaret() == byte && selects(Pos(), 0, 0) && selects(Hex(), 3 * column, 2) &&
-               selects(Ascii(), column, 1) && IsInSight(line);
-    }
-    bool ShowsNoByte()
-    {
-        for (const HexTextPane* const column : Panes())
-            if (column->textCursor().position() != 0 || column->textCursor().hasSelection()) return false;
-        return pane.HexCaret() == 0 && IsInSight(0);
-    }
-    int TopOf(HexTextPane& column, int line)
-    {
-        const QTextCursor cursor(column.document()->findBlockByNumber(line));
-        return column.viewport()->mapTo(&pane, column.cursorRect(cursor).topLeft()).y();
-    }
-    bool IsInSight(int line)
-    {
-        const int top = TopOf(Hex(), line), area = Area().mapTo(&pane, QPoint(0, 0)).y();
-        return top == TopOf(Pos(), line) && top == TopOf(Ascii(), line) && top >= area &&
-               top + Hex().LineHeight() <= std::max(area + Area().height(), area + Hex().LineHeight());
-    }
-    void Click(HexTextPane& column, int position, qreal within)
-    {
-        QTextCursor cursor(column.document());
-        cursor.setPosition(position);
-        const qreal width = QFontMetricsF(column.font()).horizontalAdvance(QLatin1Char('0'));
-        const QRect place = column.cursorRect(cursor);
-        QTest::mouseClick(column.viewport(), Qt::LeftButton, {},
-                          QPoint(qRound(place.left() + within * width), place.center().y()));
-    }
-
-    HexPane pane;
-
-private:
-    QTemporaryDir folder_;
-};
 
 QColor RedIn(const HexTextPane& pane)
 {
@@ -224,11 +97,11 @@ private Q_SLOTS:
     {
         Shown s(Counting(2000));
         s.pane.ShowRecord(1001, 9);
-        s.pane.setPalette(test::DarkPalette());
+        s.pane.setPalette(DarkPalette());
         const QColor base = s.Hex().palette().color(QPalette::Base);
         for (const QColor& colour :
              {LookAt(s.Ascii(), 0).colour, LookAt(s.Ascii(), 6).colour, LookAt(s.Hex(), 18).colour})
-            QVERIFY(test::Contrast(colour, base) >= 4.5);
+            QVERIFY(Contrast(colour, base) >= 4.5);
         QCOMPARE(MarkedIn(s.Hex(), RedIn(s.Hex())).size(), 18);
         QVERIFY(LookAt(s.Ascii(), 0).colour != LookAt(s.Ascii(), 6).colour);
         s.pane.setPalette(QPalette());
@@ -314,230 +187,6 @@ private Q_SLOTS:
         QCOMPARE(MarkedIn(s.Hex(), Qt::red), QStringLiteral("6162"));
         s.Key(s.Hex(), Qt::Key_Right);
         QVERIFY(s.Hex().accessibleDescription() == QLatin1String("7FFFFFF8: 00"));
-    }
-
-    void TheArrowsMoveTheByte_data()
-    {
-        QTest::addColumn<int>("width");
-        for (const int width : kWindowWidths) QTest::newRow(qPrintable(QString::number(width))) << width;
-    }
-    void TheArrowsMoveTheByte()
-    {
-        QFETCH(int, width);
-        Shown s(Counting(2000), width);
-        for (HexTextPane* const column : {&s.Hex(), &s.Ascii()}) {
-            s.pane.ShowRecord(1001, 100);
-            const int bpl = s.pane.HexBytesPerLine(), last = s.pane.Window().length - 1;
-            s.Key(*column, Qt::Key_Left);
-            QVERIFY(s.ShowsByte(0));
-            s.Key(*column, Qt::Key_Right);
-            QVERIFY(s.ShowsByte(1));
-            s.Key(*column, Qt::Key_Down);
-            QVERIFY(s.ShowsByte(1 + bpl));
-            s.Key(*column, Qt::Key_Up);
-            s.Key(*column, Qt::Key_Up);
-            QVERIFY(s.ShowsByte(0));
-            for (int i = 1; i <= last; ++i) {
-                s.Key(*column, Qt::Key_Right);
-                QVERIFY2(s.ShowsByte(i), qPrintable(QString::number(i)));
-            }
-            QCOMPARE(s.Bar().value(), last / bpl);
-            s.Key(*column, Qt::Key_Right);
-            QVERIFY(s.ShowsByte(last));
-            s.Key(*column, Qt::Key_Down);
-            QVERIFY(s.ShowsByte(last));
-        }
-    }
-
-    void InTheColumnOfPositionsTheArrowsGoByLines()
-    {
-        Shown s(Counting(2000));
-        s.pane.ShowRecord(1001, 100);
-        s.Key(s.Pos(), Qt::Key_Right);
-        QVERIFY(s.ShowsNoByte());
-        s.Key(s.Pos(), Qt::Key_Down);
-        QVERIFY(s.ShowsByte(16));
-        s.Key(s.Pos(), Qt::Key_Left);
-        QVERIFY(s.ShowsByte(16));
-        s.Key(s.Pos(), Qt::Key_Up);
-        QVERIFY(s.ShowsByte(0));
-    }
-
-    void PageKeysHomeAndEndMoveTheScrollBar()
-    {
-        Shown s(Counting(20'000));
-        for (HexTextPane* const column : s.Panes()) {
-            s.pane.ShowRecord(1001, 5000);
-            const int page = s.Bar().pageStep(), last = s.Bar().maximum();
-            QCOMPARE(last, (s.pane.Window().length - 1) / 16);
-            QVERIFY(page > 1);
-            s.Key(*column, Qt::Key_PageDown);
-            QVERIFY(s.ShowsByte(16 * page));
-            s.Key(*column, Qt::Key_PageDown);
-            QVERIFY(s.ShowsByte(32 * page));
-            s.Key(*column, Qt::Key_PageUp);
-            QVERIFY(s.ShowsByte(16 * page));
-            s.Key(*column, Qt::Key_End);
-            QVERIFY(s.ShowsByte(16 * last));
-            s.Key(*column, Qt::Key_PageDown);
-            QVERIFY(s.ShowsByte(16 * last));
-            s.Key(*column, Qt::Key_Home);
-            QVERIFY(s.ShowsByte(0));
-            s.Key(*column, Qt::Key_PageUp);
-            QVERIFY(s.ShowsByte(0));
-        }
-    }
-
-    void EveryOtherKeyIsConsumedAndDoesNothing()
-    {
-        Shown s(Counting(2000));
-        s.pane.ShowRecord(1001, 100);
-        s.Key(s.Hex(), Qt::Key_Right);
-        QApplication::clipboard()->setText(QStringLiteral("kept"));
-        const QString hex = s.Hex().toPlainText(), ascii = s.Ascii().toPlainText();
-        for (HexTextPane* const column : s.Panes())
-            for (const auto& [key, modifiers] :
-                 std::initializer_list<std::pair<int, Qt::KeyboardModifiers>>{{Qt::Key_A, {}},
-                                                                              {Qt::Key_A, Qt::ControlModifier},
-                                                                              {Qt::Key_C, Qt::ControlModifier},
-                                                                              {Qt::Key_Insert, Qt::ControlModifier},
-                                                                              {Qt::Key_V, Qt::ControlModifier},
-                                                                              {Qt::Key_Delete, {}},
-                                                                              {Qt::Key_Backspace, {}},
-                                                                              {Qt::Key_Return, {}},
-                                                                              {Qt::Key_Space, {}},
-                                                                              {Qt::Key_F9, {}}}) {
-                QKeyEvent press(QEvent::KeyPress, key, modifiers, QStringLiteral("x"));
-                QApplication::sendEvent(column, &press);
-                QVERIFY(press.isAccepted());
-                QVERIFY(s.ShowsByte(1));
-            }
-        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("kept"));
-        QCOMPARE(s.Hex().toPlainText(), hex);
-        QCOMPARE(s.Ascii().toPlainText(), ascii);
-    }
-
-    void TabLeavesAColumn()
-    {
-        Shown s(Counting(2000));
-        s.pane.ShowRecord(1001, 100);
-        s.pane.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&s.pane));
-        s.Pages().setFocus();
-        QStringList reached;
-        for (int i = 0; i < 4; ++i) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            reached += QApplication::focusWidget()->objectName();
-        }
-        QCOMPARE(reached, (QStringList{"rtfHexPos", "rtfHexHex", "rtfHexAscii", "cmbHexCodepage"}));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ShiftModifier);
-        QCOMPARE(QApplication::focusWidget(), &s.Ascii());
-    }
-
-    void LeavesShortcutsToTheWindow()
-    {
-        Shown s(Counting(2000));
-        s.pane.ShowRecord(1001, 100);
-        QKeyEvent copy(QEvent::ShortcutOverride, Qt::Key_C, Qt::ControlModifier);
-        QApplication::sendEvent(&s.Hex(), &copy);
-        QVERIFY(!copy.isAccepted());
-        QKeyEvent next(QEvent::KeyPress, Qt::Key_Tab, Qt::ControlModifier);
-        QApplication::sendEvent(&s.Hex(), &next);
-        QVERIFY(!next.isAccepted());
-    }
-
-    void AClickSelectsTheByteUnderIt()
-    {
-        Shown s(Counting(2000));
-        s.pane.ShowRecord(1001, 100);
-        for (const int byte : {0, 5, 15, 16, 33, 63}) {
-            const int line = byte / 16, column = byte % 16;
-            const int hex = s.Hex().document()->findBlockByNumber(line).position() + 3 * column;
-            for (const qreal within : {0.2, 0.8, 1.2, 1.8, 2.4}) {
-                s.Key(s.Hex(), Qt::Key_Home);
-                s.Click(s.Hex(), hex, within);
-                QVERIFY2(s.ShowsByte(byte), qPrintable(QString::number(byte)));
-            }
-            const int text = s.Ascii().document()->findBlockByNumber(line).position() + column;
-            for (const qreal within : {0.2, 0.8}) {
-                s.Key(s.Hex(), Qt::Key_Home);
-                s.Click(s.Ascii(), text, within);
-                QVERIFY2(s.ShowsByte(byte), qPrintable(QString::number(byte)));
-            }
-            s.Click(s.Pos(), 9 * line + 3, 0.5);
-            QVERIFY(s.ShowsByte(16 * line));
-        }
-    }
-
-    void AClickBesideTheTextSelectsTheNearestByteOfItsLine()
-    {
-        Shown s(Counting(2000));
-        s.pane.ShowRecord(1001, 2);
-        const int last = s.pane.Window().length - 1, right = s.Hex().viewport()->width() - 1;
-        const int second = s.Hex().cursorRect(QTextCursor(s.Hex().document()->findBlockByNumber(1))).center().y();
-        QTest::mouseClick(s.Hex().viewport(), Qt::LeftButton, {}, QPoint(right, second));
-        QVERIFY(s.ShowsByte(31));
-        QTest::mouseClick(s.Ascii().viewport(), Qt::LeftButton, {}, QPoint(s.Ascii().viewport()->width() - 1, second));
-        QVERIFY(s.ShowsByte(31));
-        QTest::mouseClick(s.Ascii().viewport(), Qt::LeftButton, {}, QPoint(right, s.Ascii().viewport()->height() - 1));
-        QVERIFY(s.ShowsByte(last));
-    }
-
-    void ADoubleClickDoesTheSameAndOtherButtonsNothing()
-    {
-        Shown s(Counting(2000));
-        s.pane.ShowRecord(1001, 100);
-        const QRect place = s.Hex().cursorRect(QTextCursor(s.Hex().document()->findBlockByNumber(2)));
-        const QPoint at = place.center() + QPoint(3, 0);
-        QTest::mouseDClick(s.Hex().viewport(), Qt::LeftButton, {}, at);
-        QVERIFY(s.ShowsByte(32));
-        QTest::mouseClick(s.Hex().viewport(), Qt::RightButton, {}, place.topLeft() - QPoint(0, 20));
-        QVERIFY(s.ShowsByte(32));
-        QTest::mousePress(s.Hex().viewport(), Qt::LeftButton, {}, at);
-        QTest::mouseMove(s.Hex().viewport(), at + QPoint(100, 20));
-        QTest::mouseRelease(s.Hex().viewport(), Qt::LeftButton, {}, at + QPoint(100, 20));
-        QVERIFY(s.ShowsByte(32));
-        QCOMPARE(s.Hex().contextMenuPolicy(), Qt::PreventContextMenu);
-    }
-
-    void TheScrollBarMovesTheByteToTheStartOfALine()
-    {
-        Shown s(Counting(20'000));
-        s.pane.ShowRecord(1001, 5000);
-        QVERIFY(s.Bar().isVisible());
-        QCOMPARE(s.Bar().minimum(), 0);
-        QCOMPARE(s.Bar().singleStep(), 1);
-        for (const int line : {1, 2, 100, s.Bar().maximum(), 7, 0}) {
-            s.Bar().setValue(line);
-            QVERIFY2(s.ShowsByte(16 * line), qPrintable(QString::number(line)));
-        }
-    }
-
-    void TheScrollBarFollowsTheByte()
-    {
-        Shown s(Counting(20'000));
-        s.pane.ShowRecord(1001, 5000);
-        for (int i = 0; i < 40; ++i) s.Key(s.Hex(), Qt::Key_Down);
-        s.Key(s.Hex(), Qt::Key_Right);
-        QCOMPARE(s.Bar().value(), 40);
-        QVERIFY(s.ShowsByte(641));
-    }
-
-    void TheWheelScrollsAllColumns()
-    {
-        Shown s(Counting(20'000));
-        s.pane.ShowRecord(1001, 5000);
-        for (HexTextPane* const column : s.Panes()) {
-            s.Bar().setValue(0);
-            for (int i = 0; i < 10; ++i) {
-                QWheelEvent turn(QPointF(5, 5), column->viewport()->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120),
-                                 Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-                QSpontaneKeyEvent::setSpontaneous(&turn);  // others aren't handed from a part to what it stands in
-                qApp->notify(column->viewport(), &turn);
-            }
-            QCOMPARE(s.Bar().value(), 10 * QApplication::wheelScrollLines());
-            QVERIFY(s.ShowsByte(16 * s.Bar().value()));
-        }
     }
 
     void TheScrollBarGoesWhenAllLinesFit()
@@ -628,7 +277,7 @@ private Q_SLOTS:
     {
         Shown s(QByteArray("\xC8\x85\x93\x93\x96\x5A\x00\x9F", 8), 600, kInternational);
         s.pane.ShowRecord(1, 5);
-        QCOMPARE(s.Ascii().toPlainText(), QStringLiteral("Hello].\u00A4").replace(u']', u'!').replace(u'!', u']'));
+        QCOMPARE(s.Ascii().toPlainText(), QStringLiteral("Hello].\u00A4"));
         s.Key(s.Hex(), Qt::Key_Right);
         s.Pages().setCurrentIndex(s.Pages().findData(kLatin));
         QCOMPARE(s.Ascii().toPlainText(), QStringLiteral("\u00C8.\u201C\u201C\u2013Z.\u0178"));
@@ -693,6 +342,20 @@ private Q_SLOTS:
         QCOMPARE(s.Pages().geometry().right() + 1, std::min(right, sight));
     }
 
+    void TheColumnsFitIntoAWindowThatShowsSoManyBytes()
+    {
+        for (const int width : kWindowWidths) {
+            Shown s(Counting(3000), width);
+            QFont font = s.pane.font();
+            font.setPointSizeF(9);  // what the widths are made for
+            s.pane.setFont(font);
+            s.pane.resize(width, kHigh);
+            s.pane.ShowRecord(1001, 500);
+            if (QFontMetricsF(s.Hex().font()).horizontalAdvance(QLatin1Char('0')) > 7.2) QSKIP("the font is wider");
+            QVERIFY(s.Area().width() >= s.Ascii().x() + s.Ascii().width());
+        }
+    }
+
     void MarkedCharactersStandInTheirColumns()
     {
         Shown s(Counting(3000));
@@ -753,10 +416,10 @@ private Q_SLOTS:
     {
         Shown s(Counting(3000));
         s.pane.ShowRecord(1001, 500);
-        for (const Language language : test::kLanguages) {
+        for (const Language language : kLanguages) {
             const Labels texts(language);
             s.pane.SetTexts(texts);
-            QCOMPARE(test::Nameless(s.pane), QStringList());
+            QCOMPARE(Nameless(s.pane), QStringList());
             QCOMPARE(s.Hex().accessibleName(), ToQt(texts, U("Bytes in hexadecimal")));
             QCOMPARE(s.Bar().accessibleName(), ToQt(texts, U("Lines of the hex viewer")));
         }
@@ -773,12 +436,13 @@ private Q_SLOTS:
             QCOMPARE(column->accessibleDescription(), QLatin1String("000003F2: ") + byte);
     }
 
-    void ReadsAPipeByNoMeans()
+    void WaitsForNoPipe()
     {
         Shown s("abc");
-        s.pane.SetFile(QStringLiteral("/dev"));
+        QVERIFY(QFile::remove(s.Path()));
+        QCOMPARE(mkfifo(QFile::encodeName(s.Path()).constData(), 0600), 0);
         s.pane.ShowRecord(1, 3);
-        QCOMPARE(s.Hex().toPlainText().left(8), QStringLiteral("00 00 00"));
+        QCOMPARE(s.Hex().toPlainText(), QStringLiteral("00 00 00"));
     }
 };
 
