@@ -407,7 +407,8 @@ void HexPane::wheelEvent(QWheelEvent* event)
 {
     const QPoint turned = event->angleDelta();
     const bool sideways = std::abs(turned.x()) > std::abs(turned.y());
-    QCoreApplication::sendEvent(sideways ? across_ : sclHex_, event);
+    QScrollBar* const bar = sideways ? across_ : sclHex_;
+    if (!bar->isHidden()) QCoreApplication::sendEvent(bar, event);
     event->accept();
 }
 

@@ -1,5 +1,7 @@
 #include "viewers/hex_pane.h"
 
+#include <QWheelEvent>
+
 #include <sys/stat.h>
 
 #include "shell/window_checks.h"
@@ -195,6 +197,9 @@ private Q_SLOTS:
         s.pane.ShowRecord(1, 17);
         QCOMPARE(s.pane.Window().length, 17);
         QVERIFY(!s.Bar().isVisible());
+        QWheelEvent turn({5, 50}, {5, 50}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&s.pane, &turn);
+        QVERIFY(s.ShowsNoByte());
         s.Key(s.Hex(), Qt::Key_End);
         QVERIFY(s.ShowsByte(16));
         s.Key(s.Hex(), Qt::Key_Home);
