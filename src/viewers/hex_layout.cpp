@@ -30,7 +30,7 @@ constexpr std::uint8_t kStop = 0x2E;
 // Ranges of bytes, both ends included.
 constexpr std::uint8_t kHidden[][2] = {
     {0x00, 0x1F},
-    {0x80, 0x90},  // sic: the Euro sign and the quotes at the beginning of the range can be seen
+    {0x80, 0x90},  // sic: the Euro sign and most of the others can be seen
     {0xAD, 0xB3},  // sic: only AD, the soft hyphen, can't be seen
 };
 

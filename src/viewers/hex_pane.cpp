@@ -408,10 +408,8 @@ void HexPane::wheelEvent(QWheelEvent* event)
     const QPoint turned = event->angleDelta();
     const bool sideways = std::abs(turned.x()) > std::abs(turned.y());
     QScrollBar* const bar = sideways ? across_ : sclHex_;
-    if (bar->isVisible() && bar->isEnabled())
-        QCoreApplication::sendEvent(bar, event);
-    else
-        event->ignore();
+    if (!bar->isHidden()) QCoreApplication::sendEvent(bar, event);
+    event->accept();
 }
 
 }  // namespace folioscope

@@ -32,7 +32,7 @@ private:
 
 namespace {
 
-constexpr int kSideSpace = 4;  // in pixels
+constexpr int kSideSpace = 2;  // in pixels
 constexpr int kCaretWidth = 1;
 
 bool IsDark(const QPalette& palette) { return palette.color(QPalette::Base).lightness() < 128; }
@@ -71,14 +71,9 @@ HexTextPane::HexTextPane(const QString& name, Ink ink, QWidget* parent)
     TakeFont();
 }
 
-int HexTextPane::LineHeightOf(const QFont& font)
-{
-    return std::max(kLineTwips / kTwipsPerPixel, qRound(QFontMetricsF(font).height()));
-}
-
 void HexTextPane::TakeFont()
 {
-    lineHeight_ = LineHeightOf(font());
+    lineHeight_ = std::max(kLineTwips / kTwipsPerPixel, qRound(QFontMetricsF(font()).height()));
     lines_->SetHeight(lineHeight_);
     document()->setDefaultFont(font());
     Colour();
@@ -123,12 +118,16 @@ void HexTextPane::SetText(const QString& text, int charactersPerLine, int lines,
     cursor.insertText(text, TextFormat());
     if (const int missing = lines - blockCount(); missing > 0)
         cursor.insertText(QString(missing, QLatin1Char('\n')), TextFormat());
-    if (mark_.length > 0) {
-        cursor.setPosition(InDocument(mark_.start));
-        cursor.setPosition(InDocument(mark_.start + mark_.length), QTextCursor::KeepAnchor);
-        cursor.setCharFormat(MarkFormat());
-    }
+    Mark(cursor);
     cursor.endEditBlock();
+}
+
+void HexTextPane::Mark(QTextCursor& cursor) const
+{
+    if (mark_.length <= 0) return;
+    cursor.setPosition(InDocument(mark_.start));
+    cursor.setPosition(InDocument(mark_.start + mark_.length), QTextCursor::KeepAnchor);
+    cursor.setCharFormat(MarkFormat());
 }
 
 // Gives the text that is there its looks anew, for another palette, font or state.
@@ -139,11 +138,7 @@ void HexTextPane::Colour()
     cursor.beginEditBlock();
     cursor.select(QTextCursor::Document);
     cursor.setCharFormat(TextFormat());
-    if (mark_.length > 0) {
-        cursor.setPosition(InDocument(mark_.start));
-        cursor.setPosition(InDocument(mark_.start + mark_.length), QTextCursor::KeepAnchor);
-        cursor.setCharFormat(MarkFormat());
-    }
+    Mark(cursor);
     cursor.endEditBlock();
 }
 

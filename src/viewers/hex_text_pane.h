@@ -27,14 +27,12 @@ public:
     // The line that stands at the top.
     void ShowFrom(int line);
 
-    // The line height in pixels, for the font in force.
+    // In pixels: as the scroll bar reckons with, or more for a bigger font.
     int LineHeight() const { return lineHeight_; }
     // What a line of so many characters needs, with the space at its sides.
     int WidthOf(int characters) const;
     // Where the selection stands.
     QRect SelectionRect() const;
-
-    static int LineHeightOf(const QFont& font);
 
 Q_SIGNALS:
     void KeyPressed(int key);
@@ -55,6 +53,7 @@ protected:
 private:
     void TakeFont();
     void Colour();
+    void Mark(QTextCursor& cursor) const;
     QTextCharFormat TextFormat() const;
     QTextCharFormat MarkFormat() const;
     void Click(QMouseEvent& event);
