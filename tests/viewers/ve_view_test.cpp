@@ -271,6 +271,24 @@ private Q_SLOTS:
         QVERIFY((share() - before).manhattanLength() < 0.002);
     }
 
+    void KeepsTheMiddleWhenItZoomsByItself()
+    {
+        Shown shown;
+        QScrollBar *const across = shown.area->horizontalScrollBar(), *const down = shown.area->verticalScrollBar();
+        shown.view.SetZoom(100);
+        QCOMPARE(down->value(), 0);  // it was seen whole, so it is read from its top
+        QTRY_VERIFY(shown.Room().width() < 300);
+        down->setValue(300);
+        const auto middle = [&] {
+            const QPointF inside = QRectF(QPointF(0, 0), shown.Room()).center() - shown.Page().topLeft();
+            return QPointF(inside.x() / shown.Page().width(), inside.y() / shown.Page().height());
+        };
+        const QPointF before = middle();
+        shown.view.SetZoom(200);
+        QVERIFY((middle() - before).manhattanLength() < 0.002);
+        QVERIFY(across->value() > 0);
+    }
+
     void GoesToPagesThatItHas()
     {
         Shown shown;
