@@ -1,10 +1,12 @@
 #include "viewers/print_pages.h"
 
 #include <QFile>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <cmath>
 
@@ -76,6 +78,32 @@ private Q_SLOTS:
         QCOMPARE(printing.asked, (QList<int>{QPrinter::PageRange, 5, 5, 12}));
         QCOMPARE(printing.Drawn(), QStringList{"5"});
         QCOMPARE(PagesOfPdf(printing.path), 1);
+    }
+
+    void PresetsThePlatformsDialog()
+    {
+        test::Script script = WithPages(12);
+        test::ScriptedEngine engine(script);
+        PreviewPane pane(nullptr);
+        pane.SetEngine(&engine, nullptr, {});
+        pane.Open({}, false);
+        pane.View().GoToPage(5);
+        QList<int> seen;
+        QTimer::singleShot(0, &pane, [&] {
+            auto* const dialog = pane.findChild<QPrintDialog*>();
+            if (dialog == nullptr) return;
+            seen = {dialog->minPage(),
+                    dialog->maxPage(),
+                    dialog->fromPage(),
+                    dialog->toPage(),
+                    static_cast<int>(dialog->printRange()),
+                    dialog->testOption(QAbstractPrintDialog::PrintPageRange),
+                    dialog->testOption(QAbstractPrintDialog::PrintSelection)};
+            dialog->reject();
+        });
+        pane.ViewPrint();
+        QCOMPARE(seen, (QList<int>{1, 12, 5, 5, QAbstractPrintDialog::PageRange, 1, 0}));
+        QVERIFY(script.calls.filter("draw").isEmpty());
     }
 
     void PrintsTheChosenPages()
