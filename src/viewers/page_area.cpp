@@ -71,8 +71,12 @@ void PageArea::SetBars()
 void PageArea::ShowPage(QSizeF size, QPointF fixed)
 {
     const QRectF before = PageRect();
-    if (fixed.isNull()) fixed = QRectF(viewport()->rect()).center();
     const bool sameSize = notice_.isEmpty() && size == size_;
+    if (fixed.isNull()) {
+        fixed = QRectF(viewport()->rect()).center();
+        // A page that was seen whole is read from its top when it grows.
+        if (verticalScrollBar()->maximum() == 0) fixed.setY(before.top());
+    }
     notice_.clear();
     size_ = size;
     SetBars();

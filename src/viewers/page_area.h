@@ -17,7 +17,7 @@ public:
     std::function<void(QPainter& painter)> paintPage;
 
     // In device-independent pixels. What is under `fixed`, a point of the viewport, stays there as far as it can; a
-    // null point stands for the middle.
+    // null point stands for the middle, or for the top of a page that was seen whole.
     void ShowPage(QSizeF size, QPointF fixed);
     void ShowNotice(const QString& notice);
     void SetEdges(bool shown);  // the line and the shadow around the page

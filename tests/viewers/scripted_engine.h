@@ -22,6 +22,7 @@ struct Script {
 
     QStringList calls;
     std::vector<QTransform> transforms;  // of each drawing
+    std::vector<double> dots;            // of its device, a unit
     VEViewListener* listener = nullptr;
     int documents = 0;  // that are alive
 };
@@ -51,6 +52,7 @@ public:
         if (script_.drawingThrows) throw std::runtime_error("drawn");
         script_.calls += QStringLiteral("draw %1 scale %2 rotation %3").arg(page).arg(scale).arg(rotation);
         script_.transforms.push_back(painter.transform());
+        script_.dots.push_back(painter.device()->devicePixelRatioF());
         painter.fillRect(QRectF(0, 0, 10, 10), Qt::red);
     }
     void StartPage(int page, QPainter&) override { script_.calls += QStringLiteral("start %1").arg(page); }
