@@ -141,7 +141,7 @@ void frmMainWindow::SetTexts()
     const auto rows = MainCommands();
     for (std::size_t i = 0; i < rows.size(); ++i) {
         commands_[i]->setText(ToQt(texts, rows[i].text));
-        commands_[i]->setToolTip(ToQt(texts, rows[i].text));
+        commands_[i]->setToolTip(ToQt(texts, rows[i].text).remove('&'));
     }
     for (QMenu* const menu : menus_) GiveAccessKeys(*menu);
     tlbMenu_->setWindowTitle(ToQt(texts, U("Toolbar")));

@@ -72,8 +72,9 @@ class Screen:
     def __init__(self, width, height):
         self.folder = tempfile.TemporaryDirectory(prefix="screen.")
         reader, writer = os.pipe()
+        # A server that begins anew when its last client goes turns away whoever comes at that moment.
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writer), "-fbdir", self.folder.name, "-nolisten", "tcp",
+            ["Xvfb", "-displayfd", str(writer), "-fbdir", self.folder.name, "-nolisten", "tcp", "-noreset",
              "-screen", "0", f"{width}x{height}x24"],
             pass_fds=[writer], stderr=subprocess.DEVNULL)
         os.close(writer)
