@@ -35,6 +35,7 @@
 #include "viewers/page_frame_engine.h"
 #include "viewers/preview_pane.h"
 #include "viewers/qt_text.h"
+#include "viewers/question.h"
 
 namespace folioscope {
 
@@ -137,6 +138,7 @@ void frmMainWindow::MakeRecentFiles(QMenu& menu)
 void frmMainWindow::SetTexts()
 {
     const Labels texts = state_.InterfaceTexts();
+    words_.Take(texts.InForce());
     for (std::size_t i = 0; i < std::size(kMenus); ++i) menus_[i]->setTitle(ToQt(texts, kMenus[i].text));
     const auto rows = MainCommands();
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -294,7 +296,7 @@ bool frmMainWindow::MayReplace(const QString& name)
     const Labels texts = state_.InterfaceTexts();
     QString text = ToQt(texts, U("%1 already exists! \r\nDo you want to replace it?"));
     text.replace("%1", name);
-    return QMessageBox::question(this, ToQt(texts, U("Question")), text) == QMessageBox::Yes;
+    return AskUser(this, texts, text);
 }
 
 void frmMainWindow::mnuFileSaveDumpAs()

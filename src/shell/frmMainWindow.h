@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "shell/interface_words.h"
 #include "shell/shell_state.h"
 #include "viewers/preview_engine.h"
 
@@ -105,6 +106,7 @@ private:
     ProcessStarter starter_;
     QMdiArea* area_;
     QToolBar* tlbMenu_;
+    InterfaceWords words_;
     QObject* listener_;  // on whose behalf the window hears of its documents
     std::unique_ptr<frmMessages> messages_;
     std::unique_ptr<frmOptions> options_;

@@ -23,7 +23,6 @@ namespace folioscope {
 namespace {
 
 constexpr int kSmallest = 601;  // pixels: narrower ones are refused
-constexpr int kLowestHex = 925 / 15;  // pixels
 constexpr int kShowEvery = 50;  // milliseconds between two looks at what an operation has done
 
 template <class Control> Control* Named(Control* control, const char* name)
@@ -346,7 +345,7 @@ void frmParserWindow::PlacePanes()
     picStatusBar_->setGeometry(0, bottom, inner, status);
     if (!picHex_->isHidden()) {
         const int wanted = static_cast<int>(panes.HexWindowHeight * static_cast<float>(height()) / 100);
-        const int hex = std::max(wanted, kLowestHex);
+        const int hex = std::max(wanted, picHex_->minimumHeight());
         picHex_->setGeometry(0, bottom - hex, inner, hex);
         bottom -= hex + Divider::kThickness;
         imgDivider3_->setGeometry(0, bottom, inner, Divider::kThickness);

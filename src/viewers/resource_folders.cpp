@@ -3,10 +3,10 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QPushButton>
 
 #include "viewers/qt_text.h"
+#include "viewers/question.h"
 
 namespace folioscope {
 
@@ -91,12 +91,7 @@ QString ResourceFolders::AskFolder() { return QFileDialog::getExistingDirectory(
 
 bool ResourceFolders::AskRemoval()
 {
-    QMessageBox box(QMessageBox::Question, ToQt(texts_, U("Question")), ToQt(texts_, U("Really delete this entry?")),
-                    QMessageBox::Yes | QMessageBox::No, this);
-    box.setTextFormat(Qt::PlainText);
-    box.button(QMessageBox::Yes)->setText(ToQt(texts_, L("Yes")));
-    box.button(QMessageBox::No)->setText(ToQt(texts_, L("No")));
-    return box.exec() == QMessageBox::Yes;
+    return AskUser(this, texts_, ToQt(texts_, U("Really delete this entry?")));
 }
 
 }  // namespace folioscope
