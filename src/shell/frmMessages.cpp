@@ -23,7 +23,7 @@ namespace folioscope {
 
 namespace {
 
-constexpr int kWidth = 720, kHeight = 260;
+constexpr int kWidth = 840, kHeight = 260;
 constexpr int kMargin = 8;                 // around the text of a cell, both sides together
 constexpr int kMillisecondsTogether = 50;  // that new lines wait for others
 

@@ -103,8 +103,11 @@ class RealWindow(unittest.TestCase):
 
     def at(self, row):
         """The text of a record, which tells by its start byte that it is this one."""
-        return self.program.properties(
-            lambda text: len(text.split("\n")) > 1 and text.split("\n")[1].split("\t")[-1].split(" ")[0] == str(row.start))
+        def tells(text):
+            head = text.split("\n")
+            return len(head) > 1 and head[1].split("\t")[-1].split(" ")[0] == str(row.start)
+
+        return self.program.properties(tells)
 
     def row(self, caption):
         return next(i for i, row in enumerate(self.rows) if row.text.startswith(caption))

@@ -125,7 +125,8 @@ class Screen:
 
     def place(self, window):
         """Left, top, width, height in pixels of the screen."""
-        told = dict(re.findall(r"(\w+)=(-?\d+)", self.tool("xdotool", "getwindowgeometry", "--shell", str(window)).stdout))
+        geometry = self.tool("xdotool", "getwindowgeometry", "--shell", str(window)).stdout
+        told = dict(re.findall(r"(\w+)=(-?\d+)", geometry))
         return tuple(int(told[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
 
     def focus(self, window):
