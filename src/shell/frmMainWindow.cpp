@@ -21,7 +21,6 @@
 
 #include "base/settings_store.h"
 #include "base/text.h"
-#include "viewers/access_keys.h"
 #include "shell/dropped_files.h"
 #include "shell/frmFind.h"
 #include "shell/frmInformation.h"
@@ -31,6 +30,7 @@
 #include "shell/icons.h"
 #include "shell/main_commands.h"
 #include "shell/website.h"
+#include "viewers/access_keys.h"
 #include "viewers/frmOptions.h"
 #include "viewers/page_frame_engine.h"
 #include "viewers/preview_pane.h"
@@ -42,7 +42,7 @@ namespace folioscope {
 namespace {
 
 constexpr char kProgram[] = "Folioscope";
-constexpr int kTwips = 15;  // a pixel
+constexpr int kTwips = 15;     // a pixel
 constexpr int kZoomStep = 10;  // percent
 
 struct MenuRow {
@@ -226,7 +226,8 @@ void frmMainWindow::StartProcess(const QString& path)
     arguments << path;
     if (starter_ ? !starter_(arguments) : !QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments))
         TellOf(U("The file could not be opened in a second window:\r\n%1\r\nThe program could not be started again. "
-                 "Please close this document first, then open the file."), path);
+                 "Please close this document first, then open the file."),
+               path);
 }
 
 void frmMainWindow::OpenHere(const QString& path)
@@ -237,8 +238,7 @@ void frmMainWindow::OpenHere(const QString& path)
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowTitle(path);
     connect(document, &frmParserWindow::StateChanged, listener_, [this] { UpdateCommands(); });
-    connect(document, &frmParserWindow::FilesDropped, this, &frmMainWindow::OpenFiles,
-            Qt::QueuedConnection);
+    connect(document, &frmParserWindow::FilesDropped, this, &frmMainWindow::OpenFiles, Qt::QueuedConnection);
     connect(document, &frmParserWindow::LinkNotOpened, this, &frmMainWindow::TellOfNoBrowser);
     connect(window, &QObject::destroyed, listener_, [this] {
         state_.messages.Clear();

@@ -42,8 +42,8 @@ public:
     frmParserWindow* ActiveDocument() const;
     frmMessages& Messages() { return *messages_; }
     frmOptions& Options() { return *options_; }
-    void PlaceWindow();       // where it stood when it was closed last
-    void AskAtFirstStart();   // has the options confirmed if that was never done
+    void PlaceWindow();      // where it stood when it was closed last
+    void AskAtFirstStart();  // has the options confirmed if that was never done
 
     void mnuFileOpen();
     void mnuFileClose();
@@ -111,7 +111,7 @@ private:
     std::unique_ptr<frmMessages> messages_;
     std::unique_ptr<frmOptions> options_;
     std::unique_ptr<PreviewEngine> engine_;  // outlives the documents
-    std::vector<QAction*> commands_;  // in the order of their table
+    std::vector<QAction*> commands_;         // in the order of their table
     std::vector<QMenu*> menus_;
     QAction* mnuDivider10_ = nullptr;
     std::array<QAction*, RecentFiles::kPlaces> mnuFileListFile_{};

@@ -34,7 +34,8 @@ template <class Control> Control* Named(Control* control, const char* name)
 }  // namespace
 
 frmParserWindow::frmParserWindow(ShellState& state, QWidget* parent)
-    : QWidget(parent), state_(state), analysisTexts_(state.settings.AnalysisLanguage()), flyTreeStructure_(Named(new FlyTree(this), "flyTreeStructure")),
+    : QWidget(parent), state_(state), analysisTexts_(state.settings.AnalysisLanguage()),
+      flyTreeStructure_(Named(new FlyTree(this), "flyTreeStructure")),
       txtProperties_(Named(new PropertyPane(state.InterfaceTexts(), this), "txtProperties")),
       imgDivider_(Named(new Divider(Qt::Horizontal, this), "imgDivider")),
       imgDivider2_(Named(new Divider(Qt::Horizontal, this), "imgDivider2")),
@@ -220,9 +221,8 @@ void frmParserWindow::ShowPreview()
 
 void frmParserWindow::TellOfViewer()
 {
-    state_.messages.addMessage(
-        MessageSource::General, MessageSeverity::Information,
-        state_.InterfaceTexts()[kViewerProblem], false);
+    state_.messages.addMessage(MessageSource::General, MessageSeverity::Information,
+                               state_.InterfaceTexts()[kViewerProblem], false);
 }
 
 void frmParserWindow::MessageBox(BoxIcon icon, std::string_view title, std::string_view text)

@@ -13,10 +13,10 @@
 #include <QTextDocument>
 #include <QTextOption>
 
-#include "viewers/access_keys.h"
 #include "shell/dropped_files.h"
 #include "shell/marked_colours.h"
 #include "shell/open_in_browser.h"
+#include "viewers/access_keys.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {

@@ -68,8 +68,7 @@ frmOptions::frmOptions(clsSillyFunctions& store, Settings& settings, const QStri
     LoadControls();
 }
 
-// ------------------------------------------------------------------------------------------------------------ the
-// parts
+// ---------------------------------------------------------------------------------------------------------- the parts
 
 void frmOptions::MakePages()
 {
@@ -155,8 +154,7 @@ const OptionControl& frmOptions::ControlOf(std::int32_t Settings::*member) const
 
 QGroupBox* frmOptions::Frame(const char* name) const { return findChild<QGroupBox*>(QLatin1String(name)); }
 
-// ------------------------------------------------------------------------------------------------------------ the
-// words
+// ---------------------------------------------------------------------------------------------------------- the words
 
 void frmOptions::SetTexts(const Labels& texts)
 {
@@ -195,8 +193,7 @@ QList<QWidget*> frmOptions::PartsOf(const QWidget& page) const
 
 void frmOptions::SetCancelEnabled(bool enabled) { btnCancel_->setEnabled(enabled); }
 
-// --------------------------------------------------------------------------------------------------- opening and
-// leaving
+// ------------------------------------------------------------------------------------------------ opening and leaving
 
 void frmOptions::LoadControls()
 {
@@ -238,8 +235,7 @@ void frmOptions::reject()
     QDialog::reject();
 }
 
-// -------------------------------------------------------------------------------------------------------------
-// choosing
+// ----------------------------------------------------------------------------------------------------------- choosing
 
 void frmOptions::ChooseLanguage()
 {

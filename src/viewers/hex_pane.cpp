@@ -13,9 +13,9 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <string_view>
 
 #include "codepages/system_page.h"
+#include "viewers/codepage_text.h"
 #include "viewers/hex_text_pane.h"
 #include "viewers/qt_text.h"
 
@@ -52,13 +52,6 @@ QFont FixedFont(const QFont& other)
     font.setPointSizeF(std::max(QFontInfo(font).pointSizeF(), QFontInfo(other).pointSizeF()));
     font.setKerning(false);
     return font;
-}
-
-QString CodePageText(std::int32_t number)
-{
-    std::string_view symbol, type, name;
-    clsCPConversions::GetSpecificCPInfo(number, symbol, type, name);
-    return QStringList{ToQt(symbol), ToQt(type), ToQt(name)}.join(QLatin1String(", "));
 }
 
 int Twips(int pixels) { return pixels * kTwipsPerPixel; }
@@ -107,7 +100,7 @@ void HexPane::FillCodePages(std::int32_t codepage)
 {
     const QScopedValueRollback updating(HexUpdating_, true);
     for (const std::int32_t number : clsCPConversions::AvailableCodepages())
-        if (number != kUnicodePage) cmbHexCodepage_->addItem(CodePageText(number), number);
+        if (number != kUnicodePage) cmbHexCodepage_->addItem(TextOfCodepage(number), number);
     cmbHexCodepage_->setCurrentIndex(std::max(cmbHexCodepage_->findData(codepage), 0));
 }
 

@@ -89,9 +89,6 @@ void ResourceFolders::Remove()
 
 QString ResourceFolders::AskFolder() { return QFileDialog::getExistingDirectory(this, title()); }
 
-bool ResourceFolders::AskRemoval()
-{
-    return AskUser(this, texts_, ToQt(texts_, U("Really delete this entry?")));
-}
+bool ResourceFolders::AskRemoval() { return AskUser(this, texts_, ToQt(texts_, U("Really delete this entry?"))); }
 
 }  // namespace folioscope

@@ -160,8 +160,7 @@ void FrmMainWindowTest::withADocumentOffersItsCommands()
           "mnuEditTreeExpand", "mnuEditTreeCollapse", "mnuWindowsCascade", "mnuWindowsTileVertical",
           "mnuWindowsTileHorizontal", "mnuWindowsCloseAll", "mnuExtrasOptions", "tlbPreview", "tlbExtractResource"})
         QVERIFY2(Command(name)->isEnabled(), name);
-    for (const char* const name : {"mnuWindowsMessages", "tlbCancel"})
-        QVERIFY2(!Command(name)->isEnabled(), name);
+    for (const char* const name : {"mnuWindowsMessages", "tlbCancel"}) QVERIFY2(!Command(name)->isEnabled(), name);
 }
 
 void FrmMainWindowTest::showsTheDocumentThatItOpens()

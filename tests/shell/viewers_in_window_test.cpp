@@ -319,8 +319,7 @@ void ViewersInWindowTest::theEnginesMessagesAreListed_data()
     QTest::newRow("error") << 7 << 3 << 2;
     QTest::newRow("fatal") << 7 << 4 << 2;
     QTest::newRow("unknown severity") << 7 << 5 << 0;
-    for (const int known : {1038, 2014, 3015, 3204})
-        QTest::addRow("%d is dropped", known) << known << 4 << 0;
+    for (const int known : {1038, 2014, 3015, 3204}) QTest::addRow("%d is dropped", known) << known << 4 << 0;
 }
 
 void ViewersInWindowTest::theEnginesMessagesAreListed()
@@ -329,7 +328,7 @@ void ViewersInWindowTest::theEnginesMessagesAreListed()
     QFETCH(int, severity);
     QFETCH(int, listed);
     static_cast<IVEDisplayMachineCallback&>(*window_).IVEDisplayMachineCallback_LogMessage("engine", number, severity,
-                                                                                          "no ink");
+                                                                                           "no ink");
     QCOMPARE(state_->messages.Size(), listed == 0 ? 0u : 1u);
     if (listed == 0) return;
     const Message& message = state_->messages[0];
