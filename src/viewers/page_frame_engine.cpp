@@ -17,7 +17,7 @@ namespace folioscope {
 namespace {
 
 constexpr int kError = 3;                 // severity
-constexpr qint64 kSlice = 10;             // milliseconds; the read of a chunk comes on top
+constexpr qint64 kSlice = 5;              // milliseconds; the reading of a chunk comes on top
 constexpr int kRecordsBetweenLooks = 64;  // at the clock
 
 // Walks through the file's records in slices of the event loop, and lets go of the file at its end.

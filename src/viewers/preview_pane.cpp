@@ -43,6 +43,19 @@ bool ShowPrintDialog(QPrinter& printer, int maxPage, QWidget* parent)
     return dialog.exec() == QDialog::Accepted;
 }
 
+// Those of the document that the dialog has been told, which may be several stretches; all if there is no range.
+QPageRanges ChosenPages(const QPrinter& printer, int maxPage)
+{
+    QPageRanges pages;
+    if (printer.printRange() != QPrinter::PageRange || printer.pageRanges().isEmpty()) {
+        pages.addRange(1, maxPage);
+        return pages;
+    }
+    for (const QPageRanges::Range& range : printer.pageRanges().toRangeList())
+        if (range.from <= maxPage) pages.addRange(std::max(range.from, 1), std::min(range.to, maxPage));
+    return pages;
+}
+
 }  // namespace
 
 struct PreviewPane::Listener final : VEViewListener {
@@ -196,11 +209,7 @@ void PreviewPane::Print()
     printer.setPrintRange(QPrinter::PageRange);
     printer.setFromTo(page, page);
     if (!choosePrinter(printer, maxPage, this)) return;
-    PrintJob job = {*engine_, *document_, program_, 1, maxPage};
-    if (printer.printRange() == QPrinter::PageRange) {
-        job.fromPage = std::max(printer.fromPage(), 1);
-        job.toPage = std::min(printer.toPage(), maxPage);
-    }
+    const PrintJob job = {*engine_, *document_, program_, ChosenPages(printer, maxPage)};
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const struct CursorBack {
         ~CursorBack() { QApplication::restoreOverrideCursor(); }

@@ -55,12 +55,14 @@ void PrintPage(QPainter& painter, const QPrinter& printer, ViewDocument& documen
 PrintResult PrintPages(QPrinter& printer, const PrintJob& job)
 {
     printer.setDocName(job.program);
+    if (job.pages.isEmpty()) return PrintResult::Printed;
     QPainter painter;
     if (!painter.begin(&printer)) return PrintResult::PrinterFailed;
     {
         const DeviceInUse device(job, printer);
-        for (int page = job.fromPage; page <= job.toPage; ++page) {
-            if (page > job.fromPage && !printer.newPage()) return PrintResult::PrinterFailed;
+        for (int page = job.pages.firstPage(); page <= job.pages.lastPage(); ++page) {
+            if (!job.pages.contains(page)) continue;
+            if (page > job.pages.firstPage() && !printer.newPage()) return PrintResult::PrinterFailed;
             PrintPage(painter, printer, job.document, page);
         }
     }

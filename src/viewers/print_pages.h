@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPageRanges>
 #include <QString>
 
 class QPrinter;
@@ -13,7 +14,7 @@ struct PrintJob {
     PreviewEngine& engine;
     ViewDocument& document;
     QString program;  // under this name it stands in the printer's queue
-    int fromPage, toPage;
+    QPageRanges pages;
 };
 
 enum class PrintResult { Printed, PrinterFailed };

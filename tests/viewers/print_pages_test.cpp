@@ -118,6 +118,30 @@ private Q_SLOTS:
         QCOMPARE(PagesOfPdf(printing.path), 4);
     }
 
+    void PrintsSeveralStretches()
+    {
+        Printing printing(WithPages(12));
+        printing.choose = [](QPrinter& printer) {
+            printer.setPageRanges(QPageRanges::fromString("2-3,7,11-40,50"));
+            return true;
+        };
+        printing.pane.ViewPrint();
+        QCOMPARE(printing.Drawn(), (QStringList{"2", "3", "7", "11", "12"}));
+        QCOMPARE(PagesOfPdf(printing.path), 5);
+    }
+
+    void PrintsNothingBeyondTheLastPage()
+    {
+        Printing printing(WithPages(12));
+        printing.choose = [](QPrinter& printer) {
+            printer.setFromTo(13, 20);
+            return true;
+        };
+        printing.pane.ViewPrint();
+        QCOMPARE(printing.script.calls, QStringList{"find all"});
+        QVERIFY(printing.log.messages.empty());
+    }
+
     void PrintsAllPagesIfNoneAreChosen()
     {
         Printing printing(WithPages(4));
