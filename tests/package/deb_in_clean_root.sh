@@ -16,15 +16,16 @@ at_end() {
 
 in_root() { chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive "$@"; }
 
-# as_user COMMAND...: in the root, or with what is unpacked there.
-as_user() {
-    local home=/home/reader
+# as_user: what runs a command as a user of the root, or with what is unpacked there.
+home=/home/reader
+set_user() {
     if [ "$how" = installed ]; then
-        chroot --userspec=$nobody:$nobody "$root" env -i -C "$home" PATH=/usr/bin:/bin LC_ALL=C.UTF-8 HOME="$home" \
-            QT_QPA_PLATFORM=offscreen "$@"
+        as_user=(chroot "--userspec=$nobody:$nobody" "$root" env -i -C "$home" PATH=/usr/bin:/bin)
     else
-        env -C "$root$home" PATH="$root/usr/bin:$PATH" HOME="$root$home" QT_QPA_PLATFORM=offscreen "$@"
+        home=$root$home
+        as_user=(env -C "$home" "PATH=$root/usr/bin:$PATH")
     fi
+    as_user+=(LC_ALL=C.UTF-8 "HOME=$home" QT_QPA_PLATFORM=offscreen)
 }
 
 debian() {
@@ -52,26 +53,29 @@ give_samples() {
     mkdir -p "$root/home/reader/a folder"
     cp "$source"/samples/statement*.afp "$root/home/reader"
     cp "$source/samples/statement.afp" "$root/home/reader/a folder/of two words"
+    # Options that were confirmed once, so that no dialog asks for them.
+    mkdir -p "$root/home/reader/.config/Marrowgate"
+    printf '%s\n' '[HKEY_CURRENT_USER\Software\Marrowgate\Folioscope]' 'Codepage=dword:37' \
+        'InitResourcePaths=dword:1' 'TechnicalEnglish=dword:0' >"$root/home/reader/.config/Marrowgate/registry.ini"
     [ "$how" != installed ] || chown -R $nobody:$nobody "$root/home/reader"
 }
 
 use_programs() {
-    local version home=/home/reader
-    [ "$how" = installed ] || home=$root$home
+    local version
     version=$(dpkg-deb -f "$deb" Version)
     version=${version%-*}
-    same "the version of fsv" "Folioscope $version" "$(as_user fsv --version)"
-    same "the version of fsv-dump" "fsv-dump $version" "$(as_user fsv-dump --version)"
+    same "the version of fsv" "Folioscope $version" "$("${as_user[@]}" fsv --version)"
+    same "the version of fsv-dump" "fsv-dump $version" "$("${as_user[@]}" fsv-dump --version)"
     for sample in "$root"/home/reader/statement*.afp; do
         sample=$(basename "$sample" .afp)
         same "the tree of $sample" "$(cat "$source/tests/golden/$sample.tree.txt")" \
-            "$(as_user fsv-dump --tree "$sample.afp")"
+            "$("${as_user[@]}" fsv-dump --tree "$sample.afp")"
     done
 
     # The window writes a dump and waits for somebody to read that it has done so.
-    local file="$home/a folder/of two words" dump="$root/home/reader/a folder/of two words.txt"
-    as_user fsv "$file" /extract 2>"$folder/fsv.log" &
-    local fsv=$!
+    local file="$home/a folder/of two words" dump="$root/home/reader/a folder/of two words.txt" fsv
+    "${as_user[@]}" fsv "$file" /extract 2>"$folder/fsv.log" &
+    fsv=$!
     for _ in $(seq 100); do
         if [ -s "$dump" ] || ! kill -0 $fsv 2>/dev/null; then break; fi
         sleep 0.1
@@ -80,40 +84,54 @@ use_programs() {
     kill $fsv
     wait $fsv 2>/dev/null || true
     [ -s "$dump" ] || fail "fsv has not opened the file: $(cat "$folder/fsv.log")"
-    as_user fsv-dump -o - "$file" | cmp - "$dump" || fail "the dumps of fsv and fsv-dump differ"
+    "${as_user[@]}" fsv-dump -o - "$file" | cmp - "$dump" || fail "the dumps of fsv and fsv-dump differ"
 }
 
 # How a desktop comes from a file to the program.
 ask_desktop() {
     local entry=example.marrowgate.folioscope.desktop type=application/vnd.afpc.modca
+    local file found
     for file in statement.afp statement-bare.afp "a folder/of two words"; do
-        as_user gio info -a standard::content-type "$file" | grep -q "standard::content-type: $type\$" ||
-            fail "$file is of another type"
+        found=$("${as_user[@]}" gio info -a standard::content-type "$file")
+        grep -q "standard::content-type: $type\$" <<<"$found" || fail "$file: $found"
     done
-    as_user gio mime "$type" | grep -q "$entry" || fail "no program for $type"
-    as_user gio mime "$type-overlay" | grep -q "$entry" || fail "no program for overlays"
+    for type in "$type" "$type-overlay" "$type-pagesegment"; do
+        found=$("${as_user[@]}" gio mime "$type")
+        grep -qF "$entry" <<<"$found" || fail "$type: $found"
+    done
 }
 
-dpkg-deb -x "$deb" "$folder/unpacked"
-! grep -rlaF "$source" "$folder/unpacked" || fail "these files name the folder of the build"
-
-if [ "$(id -u)" -eq 0 ] && command -v debootstrap >/dev/null; then
+installed_and_removed() {
     how=installed
+    set_user
     debian
+    local before
     before=$(files_of_root)
     cp "$deb" "$root/tmp/package.deb"
-    in_root apt-get install -q -y --no-install-recommends /tmp/package.deb >"$folder/log" 2>&1 || fail "$(cat "$folder/log")"
-    ! in_root dpkg --verify folioscope | grep . || fail "files differ from the package"
+    in_root apt-get install -q -y --no-install-recommends /tmp/package.deb >"$folder/log" 2>&1 ||
+        fail "$(tail -n 20 "$folder/log")"
+    same "files that differ from the package" "" "$(in_root dpkg --verify folioscope)"
     give_samples
     use_programs
     ask_desktop
-    in_root apt-get purge -q -y folioscope >"$folder/log" 2>&1 || fail "$(cat "$folder/log")"
+    in_root apt-get purge -q -y folioscope >"$folder/log" 2>&1 || fail "$(tail -n 20 "$folder/log")"
     same "the files before and after" "$before" "$(files_of_root)"
     echo "The package was installed, used, and removed without a trace."
-else
+}
+
+only_unpacked() {
     how=unpacked
+    set_user
     mv "$folder/unpacked" "$root"
     give_samples
     use_programs
     echo "The package was unpacked and used. With root and debootstrap it would be installed and removed as well."
+}
+
+dpkg-deb -x "$deb" "$folder/unpacked"
+! grep -rlaF "$source" "$folder/unpacked" || fail "these files name the folder of the build"
+if [ "$(id -u)" -eq 0 ] && command -v debootstrap >/dev/null; then
+    installed_and_removed
+else
+    only_unpacked
 fi
