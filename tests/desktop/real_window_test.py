@@ -232,6 +232,17 @@ class RealWindow(unittest.TestCase):
         dump("--language", self.language(), "-o", expected, self.sample)
         self.assertEqual(read(self.sample + ".txt"), read(expected))
         self.assertGreater(len(read(expected)), 2000)
+        self.keep_dump(read(expected))
+
+    def keep_dump(self, content):
+        """A second time it is asked whether the dump may go: it stays."""
+        question, known = self.new_window("the question", "ctrl+s")
+        self.assertEqual(self.screen.title(question), self.words["Question"])
+        self.screen.focus(question)
+        self.look("question")
+        self.leave("the question", known)
+        self.program.to_front()
+        self.assertEqual(read(self.sample + ".txt"), content)
 
     def collapse(self):
         self.screen.keys("ctrl+shift+e", "End")
