@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QShortcut>
 #include <QUrl>
 
 #include "shell/help_browser.h"
@@ -48,6 +49,7 @@ void ShowHelp(Language language, QWidget* parent)
     browser->setWindowTitle(browser->documentTitle());
     browser->setAccessibleName(browser->documentTitle());
     browser->resize(760, 820);
+    QObject::connect(new QShortcut(Qt::Key_Escape, browser), &QShortcut::activated, browser, &QWidget::close);
     browser->show();
 }
 

@@ -5,6 +5,7 @@
 """
 
 import os
+import re
 import subprocess
 import sys
 import tempfile
@@ -82,12 +83,12 @@ class RealWindow(unittest.TestCase):
 
     def wait_for_news(self, part, before):
         """The part of the main window, when it isn't as before any more."""
-        def shown():
-            return part(self.screen.picture().part(*self.screen.place(self.program.window)))
-
-        wait_for("another picture", lambda: shown() != part(before))
+        wait_for("another picture", lambda: part(self.now()) != part(before))
         self.screen.settled()
-        return shown()
+        return part(self.now())
+
+    def now(self):
+        return self.screen.picture().part(*self.screen.place(self.program.window))
 
     @staticmethod
     def tree_of(window):
@@ -139,6 +140,41 @@ class RealWindow(unittest.TestCase):
         self.screen.keys("Home")
         self.screen.write("tle")
         self.at(self.rows[self.row("TLE")])
+
+    def new_window(self, what, *keys):
+        """The window that comes when these keys are pressed, and those that were there before."""
+        known = set(self.screen.windows(".*"))
+        self.screen.keys(*keys)
+        new = wait_for(what, lambda: set(self.screen.windows(".*")) - known)
+        return new.pop(), known
+
+    def leave(self, what, known):
+        self.screen.keys("Escape")
+        wait_for("the end of " + what, lambda: set(self.screen.windows(".*")) <= known)
+
+    def open_menus(self):
+        for menu in ("&File", "&Edit", "E&xtras", "&Windows", "&Help"):
+            _, known = self.new_window("menu " + menu, "alt+" + self.key_of(menu))
+            self.look("menu-" + menu.replace("&", "").lower())
+            self.leave("menu " + menu, known)
+            self.screen.keys("Escape")  # the first one leads back to the menu bar
+        self.program.to_front()
+
+    def read_help(self):
+        window, known = self.new_window("the help", "F1")
+        self.screen.focus(window)
+        self.assertEqual(self.screen.title(window), self.help_title())
+        self.look("help")
+        self.leave("the help", known)
+        self.program.to_front()
+
+    def key_of(self, label):
+        text = self.words[label]
+        return text[text.index("&") + 1].lower()
+
+    def help_title(self):
+        with open(os.path.join(SOURCES, f"docs/help/help.{self.language()}.html"), encoding="utf-8") as file:
+            return re.search("<title>(.*)</title>", file.read()).group(1)
 
     def find(self):
         """Each hit: a text that only a reading of the record's body brings, and no further one."""
@@ -196,6 +232,17 @@ class RealWindow(unittest.TestCase):
         dump("--language", self.language(), "-o", expected, self.sample)
         self.assertEqual(read(self.sample + ".txt"), read(expected))
         self.assertGreater(len(read(expected)), 2000)
+        self.keep_dump(read(expected))
+
+    def keep_dump(self, content):
+        """A second time it is asked whether the dump may go: it stays."""
+        question, known = self.new_window("the question", "ctrl+s")
+        self.assertEqual(self.screen.title(question), self.words["Question"])
+        self.screen.focus(question)
+        self.look("question")
+        self.leave("the question", known)
+        self.program.to_front()
+        self.assertEqual(read(self.sample + ".txt"), content)
 
     def collapse(self):
         self.screen.keys("ctrl+shift+e", "End")
@@ -204,6 +251,8 @@ class RealWindow(unittest.TestCase):
     def walk(self, name, language, **options):
         self.start(name, language, **options)
         self.walk_by_keys()
+        self.open_menus()
+        self.read_help()
         self.expand_and_type()
         self.find()
         self.read_messages()
