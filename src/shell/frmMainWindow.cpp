@@ -265,7 +265,9 @@ void frmMainWindow::OpenFiles(const QStringList& paths)
 void frmMainWindow::mnuFileOpen()
 {
     const Labels texts = state_.InterfaceTexts();
-    const QString path = QFileDialog::getOpenFileName(this, ToQt(texts, U("Select AFP File ...")), QString(),
+    const std::string& last = state_.recentFiles[0];
+    const QString folder = last.empty() ? QDir::homePath() : QFileInfo(ToQt(last)).path();
+    const QString path = QFileDialog::getOpenFileName(this, ToQt(texts, U("Select AFP File ...")), folder,
                                                       ToQt(texts, U("All Files (*.*)|*.*")).section('|', 0, 0));
     if (!path.isEmpty()) ProcessFile(path);
 }

@@ -8,6 +8,8 @@
 #include <QProgressBar>
 #include <QPushButton>
 
+#include <cstdio>
+
 #include "base/text.h"
 #include "shell/divider.h"
 #include "shell/fly_tree.h"
@@ -215,7 +217,8 @@ void frmParserWindow::ShowPreview()
     picViewFrame_->setVisible(previewShown_);
     imgDivider2_->setVisible(previewShown_);
     PlacePanes();
-    if (previewShown_) picViewFrame_->Open(path_, state_.settings.UseAutoRotation == 1);
+    if (previewShown_ && picViewFrame_->Open(path_, state_.settings.UseAutoRotation == 1) && document_)
+        picViewFrame_->TurnToPageOf(flyTreeStructure_->Selected(), document_->Tree().PageEnds());
     Q_EMIT StateChanged();
 }
 
@@ -225,8 +228,15 @@ void frmParserWindow::TellOfViewer()
                                state_.InterfaceTexts()[kViewerProblem], false);
 }
 
+// A dump that the command line has asked for is written without a user: what went well needs no answer, and what didn't
+// is told on the terminal too.
 void frmParserWindow::MessageBox(BoxIcon icon, std::string_view title, std::string_view text)
 {
+    if (state_.bolExtract) {
+        if (icon == BoxIcon::Information) return;
+        state_.extractFailed = true;
+        std::fprintf(stderr, "fsv: %.*s\n", static_cast<int>(text.size()), text.data());
+    }
     QMessageBox box(icon == BoxIcon::Stop ? QMessageBox::Critical : QMessageBox::Information, ToQt(title), ToQt(text),
                     QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);

@@ -1,6 +1,7 @@
 // fsv: the desktop program.
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QLocale>
 
 #include <cstdio>
@@ -57,6 +58,10 @@ int main(int argc, char** argv)
     InitResources();
     QApplication::setWindowIcon(ProgramIcon());
 
+    // The current folder doesn't stay what it is: making the folders of the lists changes it.
+    const QString file = line.strStartFile.empty()
+                             ? QString()
+                             : QFileInfo(QString::fromStdString(line.strStartFile)).absoluteFilePath();
     ShellState state;
     state.numbers = NumbersOfTheLocale();
     state.settings = ReadSettings(state.store);
@@ -68,10 +73,10 @@ int main(int argc, char** argv)
     window.PlaceWindow();
     window.show();
     window.AskAtFirstStart();
-    if (!line.strStartFile.empty()) window.ProcessFile(QString::fromStdString(line.strStartFile));
+    if (!file.isEmpty()) window.ProcessFile(file);
     if (state.bolExtract) {
         window.close();
-        return 0;
+        return state.extractFailed ? 1 : 0;
     }
     return QApplication::exec();
 }

@@ -29,6 +29,7 @@ struct ShellState {
     std::string strReloadNode;  // to be selected in the next document, with ^ between the levels
     bool bolFromFSV = false;    // another process of the program has started this one
     bool bolExtract = false;    // write the dump and end
+    bool extractFailed = false;
 
     // The language that is being tried out in the options, until they are closed.
     std::optional<Language> triedLanguage;

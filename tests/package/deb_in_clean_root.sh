@@ -72,18 +72,8 @@ use_programs() {
             "$("${as_user[@]}" fsv-dump --tree "$sample.afp")"
     done
 
-    # The window writes a dump and waits for somebody to read that it has done so.
-    local file="$home/a folder/of two words" dump="$root/home/reader/a folder/of two words.txt" fsv
-    "${as_user[@]}" fsv "$file" /extract 2>"$folder/fsv.log" &
-    fsv=$!
-    for _ in $(seq 100); do
-        if [ -s "$dump" ] || ! kill -0 $fsv 2>/dev/null; then break; fi
-        sleep 0.1
-    done
-    kill -0 $fsv || fail "fsv has ended: $(cat "$folder/fsv.log")"
-    kill $fsv
-    wait $fsv 2>/dev/null || true
-    [ -s "$dump" ] || fail "fsv has not opened the file: $(cat "$folder/fsv.log")"
+    local file="$home/a folder/of two words" dump="$root/home/reader/a folder/of two words.txt"
+    timeout 60 "${as_user[@]}" fsv "$file" /extract 2>"$folder/fsv.log" || fail "fsv: $(cat "$folder/fsv.log")"
     "${as_user[@]}" fsv-dump -o - "$file" | cmp - "$dump" || fail "the dumps of fsv and fsv-dump differ"
 }
 

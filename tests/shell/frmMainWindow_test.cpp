@@ -1,6 +1,7 @@
 // The frame with real files: what can be chosen when, and what becomes of files, drops, dumps and second documents.
 
 #include <QAction>
+#include <QDir>
 #include <QDropEvent>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -96,6 +97,7 @@ private Q_SLOTS:
     void dividersStayInTheirBounds();
     void tellsOfAFileThatIsNotThere();
     void extractsADumpWhenItWasStartedForThat();
+    void tellsThatADumpCouldNotBeExtracted();
     void menusHaveNoTwoEqualAccessKeys_data();
     void menusHaveNoTwoEqualAccessKeys();
     void eachControlHasAnAccessibleName();
@@ -365,6 +367,19 @@ void FrmMainWindowTest::extractsADumpWhenItWasStartedForThat()
     Answer answer;
     window_->ProcessFile(path);
     QVERIFY(ReadWhole(path.toStdString() + ".txt").find("Dear reader..") != std::string::npos);
+    QVERIFY(answer.texts.isEmpty());  // nobody is there to answer
+    QVERIFY(!state_->extractFailed);
+}
+
+void FrmMainWindowTest::tellsThatADumpCouldNotBeExtracted()
+{
+    state_->bolExtract = true;
+    const QString path = File("a.afp", Letter());
+    QVERIFY(QDir().mkdir(path + ".txt"));
+    Answer answer;
+    window_->ProcessFile(path);
+    QCOMPARE(answer.texts.size(), 1);
+    QVERIFY(state_->extractFailed);
 }
 
 void FrmMainWindowTest::menusHaveNoTwoEqualAccessKeys_data()
