@@ -93,6 +93,7 @@ public:
     bool GetNodeContents_bolUnread(std::uint32_t lngNodeCode) const;
     // The property text with its markup. Of a deferred record that was read before it is made again if need be.
     std::string GetNodeContents_strContent(std::uint32_t lngNodeCode);
+    void AppendContent(std::string& out, std::uint32_t lngNodeCode);  // the same, behind what is there
 
     // The next node behind `selected` in tree order whose text, a slash and its property text with all markup hold the
     // term. Bodies that were left for later are read on the way. The user can stop the search where one is read.

@@ -40,7 +40,7 @@ FindResult Document::FindNext(std::uint32_t selected, const FindTerm& term)
 
 FindResult Document::Search(std::uint32_t selected, const FindTerm& term)
 {
-    std::string wanted, nodeText, searched;
+    std::string wanted, text, searched;
     AppendUpperCase(wanted, term.strSearch);
     std::size_t passed = 0;
     FindResult result;
@@ -62,14 +62,16 @@ FindResult Document::Search(std::uint32_t selected, const FindTerm& term)
             host_.Progress(result.node);
             host_.GiveWay();
         }
-        nodeText.clear();
-        tree_->AppendNodeText(nodeText, result.node);
+        text.clear();
+        tree_->AppendNodeText(text, result.node);
+        passed += text.size() + kNodeCounts;
+        if (!Accepts(term, text)) continue;
+        text += '/';
+        AppendContent(text, result.node);
         searched.clear();
-        AppendUpperCase(searched, nodeText);
-        searched += '/';
-        AppendUpperCase(searched, GetNodeContents_strContent(result.node));
-        passed += searched.size() + kNodeCounts;
-        if (searched.find(wanted) == std::string::npos || !Accepts(term, nodeText)) continue;
+        AppendUpperCase(searched, text);
+        passed += searched.size();
+        if (searched.find(wanted) == std::string::npos) continue;
         result.outcome = FindOutcome::Found;
         return result;
     }

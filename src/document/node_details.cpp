@@ -134,20 +134,26 @@ FileFailure Document::LookupMissingData(std::uint32_t lngNodeCode)
 
 std::string Document::GetNodeContents_strContent(std::uint32_t lngNodeCode)
 {
-    const NodeRecord& node = tree_->Nodes()[lngNodeCode];
     std::string content;
-    if (node.head) renderer_->AppendHeadLines(content, Fields()[node.field].SFName, node.lngStart, node.lngLength);
-    if (!node.deferred || node.bolUnread) {
-        tree_->AppendBody(content, lngNodeCode);
-        return content;
+    AppendContent(content, lngNodeCode);
+    return content;
+}
+
+void Document::AppendContent(std::string& out, std::uint32_t lngNodeCode)
+{
+    const NodeRecord& node = tree_->Nodes()[lngNodeCode];
+    if (node.head) renderer_->AppendHeadLines(out, Fields()[node.field].SFName, node.lngStart, node.lngLength);
+    if (!node.deferred || node.bolUnread) return tree_->AppendBody(out, lngNodeCode);
+    if (const auto kept = bodies_.find(lngNodeCode); kept != bodies_.end()) {
+        out += kept->second;
+        return;
     }
-    if (const auto kept = bodies_.find(lngNodeCode); kept != bodies_.end()) return content += kept->second;
     std::string body;
     const bool opened = !BodyReader().Reader().IsOpen();
-    if (opened && RedirectOpenAFPFileRandom()) return content;
+    if (opened && RedirectOpenAFPFileRandom()) return;
     if (!ReadBody(lngNodeCode, body)) KeepBody(lngNodeCode, body);
     if (opened) RedirectCloseAFPFile();
-    return content += body;
+    out += body;
 }
 
 }  // namespace folioscope

@@ -164,6 +164,10 @@ void frmParserWindow::ShowProgress()
     pgbProgress_->setValue(static_cast<int>(progress_ >> progressShift_));
     ShowCounters();
     flyTreeStructure_->Refresh();
+    if (!rootOpened_ && document_->Tree().Nodes().Size() > 1) {
+        rootOpened_ = true;  // once: the user may have closed it
+        flyTreeStructure_->Expand(NodeStore::kRoot);
+    }
     shown_.start();
 }
 
@@ -192,6 +196,7 @@ void frmParserWindow::OperationEnds()
 
 void frmParserWindow::RunFinished()
 {
+    rootOpened_ = true;
     ShowCounters();
     flyTreeStructure_->Refresh();
     flyTreeStructure_->Expand(NodeStore::kRoot);

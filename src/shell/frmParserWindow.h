@@ -111,6 +111,7 @@ private:
 
     int busy_ = 0;
     bool previewOffered_ = false, previewShown_ = false;
+    bool rootOpened_ = false;  // so that the first rows are seen while the run goes on
     std::int64_t progress_ = 0;
     int progressShift_ = 0;  // a progress bar counts in 31 bits
     std::int32_t lngSFCount_ = 0, lngPageCount_ = 0;

@@ -12,6 +12,7 @@
 #include "shell/command_line.h"
 #include "shell/frmMainWindow.h"
 #include "shell/icons.h"
+#include "shell/program_style.h"
 #include "viewers/resource_lists.h"
 
 namespace {
@@ -55,13 +56,13 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName("Folioscope");
     QApplication::setDesktopFileName("example.marrowgate.folioscope");
+    QApplication::setStyle(new ProgramStyle);
     InitResources();
     QApplication::setWindowIcon(ProgramIcon());
 
     // The current folder doesn't stay what it is: making the folders of the lists changes it.
-    const QString file = line.strStartFile.empty()
-                             ? QString()
-                             : QFileInfo(QString::fromStdString(line.strStartFile)).absoluteFilePath();
+    const QString file =
+        line.strStartFile.empty() ? QString() : QFileInfo(QString::fromStdString(line.strStartFile)).absoluteFilePath();
     ShellState state;
     state.numbers = NumbersOfTheLocale();
     state.settings = ReadSettings(state.store);

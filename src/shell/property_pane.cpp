@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QDropEvent>
+#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
@@ -12,6 +13,8 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextOption>
+
+#include <algorithm>
 
 #include "shell/dropped_files.h"
 #include "shell/marked_colours.h"
@@ -24,17 +27,32 @@ namespace folioscope {
 namespace {
 
 // In device independent pixels. Behind the last tab stop they follow each other at the usual distance.
-constexpr qreal kFirstTab = 106, kSecondTab = 269, kUsualTab = 48;
+constexpr qreal kFirstTab = 106, kSecondTab = 269, kUsualTab = 48, kTabGap = 4;
+constexpr int kHeadLines = 3;
 
 // Long values wrap under their own start, which is the first tab stop.
-QTextBlockFormat LineFormat()
+QTextBlockFormat LineFormat(qreal firstTab)
 {
     QTextBlockFormat format;
-    format.setLeftMargin(kFirstTab);
-    format.setTextIndent(-kFirstTab);
-    format.setTabPositions(
-        {QTextOption::Tab(kFirstTab, QTextOption::LeftTab), QTextOption::Tab(kSecondTab, QTextOption::LeftTab)});
+    format.setLeftMargin(firstTab);
+    format.setTextIndent(-firstTab);
+    format.setTabPositions({QTextOption::Tab(firstTab, QTextOption::LeftTab),
+                            QTextOption::Tab(std::max(kSecondTab, firstTab + kUsualTab), QTextOption::LeftTab)});
     return format;
+}
+
+// The tab stop stands further right where the words of the head lines are too long for it, as in French or in a large
+// font: their values stand below each other all the same.
+qreal FirstTabFor(QStringView marked, const QFont& font)
+{
+    qreal widest = kFirstTab;
+    for (int line = 0; line < kHeadLines && !marked.isEmpty(); ++line) {
+        const qsizetype end = marked.indexOf(QLatin1Char('\n')), tab = marked.indexOf(QLatin1Char('\t'));
+        if (tab >= 0 && (end < 0 || tab < end))
+            widest = std::max(widest, QFontMetricsF(font).horizontalAdvance(marked.first(tab).toString()) + kTabGap);
+        marked = end < 0 ? QStringView() : marked.sliced(end + 1);
+    }
+    return widest;
 }
 
 // A menu entry that names the key it has in the pane.
@@ -83,7 +101,7 @@ void PropertyPane::Fill()
     next->setDefaultTextOption(document()->defaultTextOption());
     QTextCursor cursor(next);
     cursor.beginEditBlock();
-    cursor.setBlockFormat(LineFormat());
+    cursor.setBlockFormat(LineFormat(FirstTabFor(marked_, font())));
     ForEachPiece(marked_, [&](QStringView piece, const TextLook& look) {
         if (look.colour == TextColour::Blue) link_ += piece;
         cursor.insertText(piece.toString(), FormatOf(look));

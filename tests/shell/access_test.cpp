@@ -16,9 +16,9 @@
 #include "shell/help_window.h"
 #include "shell/icons.h"
 #include "shell/property_pane.h"
-#include "shell/window_checks.h"
 #include "support/afp_builder.h"
 #include "support/temporary_file.h"
+#include "support/window_checks.h"
 
 namespace folioscope {
 namespace {

@@ -165,6 +165,18 @@ private Q_SLOTS:
         QCOMPARE(pane.horizontalScrollBar()->maximum(), 0);
     }
 
+    void AWordThatIsTooLongForTheFirstTabMovesItForAllLines()
+    {
+        PropertyPane pane(kEnglish);
+        pane.resize(500, 300);
+        pane.show();
+        pane.ShowPropertyText("a\tb\r\n" + std::string(30, 'w') + ":\tc\r\nd\te\r\n");
+        const int first = LeftOf(pane, 2);
+        QVERIFY(first > 106);
+        QCOMPARE(LeftOf(pane, pane.document()->findBlockByNumber(1).position() + 32), first);
+        QCOMPARE(LeftOf(pane, pane.document()->findBlockByNumber(2).position() + 2), first);
+    }
+
     void TheColoursCanBeReadOnDarkAndLightGround()
     {
         const QPalette light, dark = test::DarkPalette();

@@ -4,7 +4,7 @@
 
 #include <sys/stat.h>
 
-#include "shell/window_checks.h"
+#include "support/window_checks.h"
 #include "viewers/hex_pane_support.h"
 #include "viewers/qt_text.h"
 
