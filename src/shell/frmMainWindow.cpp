@@ -138,7 +138,7 @@ void frmMainWindow::SetTexts()
     const auto rows = MainCommands();
     for (std::size_t i = 0; i < rows.size(); ++i) {
         commands_[i]->setText(ToQt(texts, rows[i].text));
-        commands_[i]->setToolTip(ToQt(texts, rows[i].text).remove('&'));
+        commands_[i]->setToolTip(ToQt(texts, rows[i].text));  // sic, with the mark of the access key
     }
     for (QMenu* const menu : menus_) GiveAccessKeys(*menu);
     tlbMenu_->setWindowTitle(ToQt(texts, U("Toolbar")));

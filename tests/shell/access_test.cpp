@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QToolBar>
 
+#include <algorithm>
 #include <memory>
 
 #include "shell/frmFind.h"
@@ -15,10 +16,12 @@
 #include "shell/frmMessages.h"
 #include "shell/help_window.h"
 #include "shell/icons.h"
+#include "shell/main_commands.h"
 #include "shell/property_pane.h"
 #include "support/afp_builder.h"
 #include "support/temporary_file.h"
 #include "support/window_checks.h"
+#include "viewers/qt_text.h"
 
 namespace folioscope {
 namespace {
@@ -131,8 +134,12 @@ private Q_SLOTS:
             for (QAction* const action : bar->actions()) {
                 if (action->isSeparator()) continue;
                 QVERIFY2(!action->icon().isNull(), qPrintable(action->objectName()));
-                QVERIFY2(!action->toolTip().isEmpty() && !action->toolTip().contains('&'),
-                         qPrintable(action->toolTip()));
+                const auto row = std::ranges::find_if(MainCommands(), [&](const MainCommand& command) {
+                    return command.text != Label::None &&
+                           action->objectName() == (command.item != nullptr ? command.item : command.button);
+                });
+                QVERIFY(row != MainCommands().end());
+                QCOMPARE(action->toolTip(), ToQt(Labels(language), row->text));
                 const QAccessibleInterface* const voice =
                     QAccessible::queryAccessibleInterface(bar->widgetForAction(action));
                 QVERIFY(voice != nullptr);
