@@ -17,8 +17,9 @@ Document::Document(const Settings& settings, NumberStyle numbers, MessageList& m
 
 Document::~Document() = default;
 
-void Document::TakeUnits(const Settings& settings)
+void Document::TakeSettings(const Settings& settings)
 {
+    settings_.Language = settings.Language;
     settings_.DefaultMeasurement = settings.DefaultMeasurement;
     settings_.NormalLineWidth = settings.NormalLineWidth;
     renderer_->lines.NormalLineWidth = settings_.LineWidth();

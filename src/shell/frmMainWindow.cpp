@@ -318,7 +318,7 @@ void frmMainWindow::mnuExtrasOptions()
     options_->exec();
     state_.triedLanguage.reset();
     SetTexts();
-    if (frmParserWindow* const document = ActiveDocument()) document->TakeUnits();
+    if (frmParserWindow* const document = ActiveDocument()) document->TakeSettings();
 }
 
 void frmMainWindow::AskAtFirstStart()

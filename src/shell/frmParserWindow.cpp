@@ -211,9 +211,9 @@ void frmParserWindow::PreviewOffered()
     if (state_.settings.UsePreviewWindow == 1 && !previewShown_) ShowPreview();
 }
 
-void frmParserWindow::TakeUnits()
+void frmParserWindow::TakeSettings()
 {
-    if (document_) document_->TakeUnits(state_.settings);
+    if (document_) document_->TakeSettings(state_.settings);
 }
 
 void frmParserWindow::ShowPreview()

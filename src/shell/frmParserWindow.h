@@ -58,7 +58,7 @@ public:
     PreviewPane& Pages() { return *picViewFrame_; }
 
     void SetTexts();   // of the language in force
-    void TakeUnits();  // the units and the line width of the settings hold for all texts made from now on
+    void TakeSettings();  // what was changed in the options holds from now on
 
 Q_SIGNALS:
     void StateChanged();  // what can be done with the window has changed

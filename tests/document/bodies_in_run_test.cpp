@@ -316,7 +316,7 @@ DecodePorts Sizes()
     return {.Sequences = [](clsAFPFunctions& afp) { afp.AddElement(Element::Int32(Key::PageSizeX, 720)); }};
 }
 
-TEST(TakeUnits, CountsForTheTextsThatAreMadeFromThenOn)
+TEST(TakeSettings, CountsForTheTextsThatAreMadeFromThenOn)
 {
     const Bytes content = AfpFile().Add("PTX", Zeros(2)).Add("PTX", Zeros(2)).Content();
     TestDocument document(content, PlainFolders(), Sizes());
@@ -326,15 +326,15 @@ TEST(TakeUnits, CountsForTheTextsThatAreMadeFromThenOn)
     EXPECT_TRUE(inches.ends_with("(0.5 Inch)\r\n")) << inches;
     Settings metric;
     metric.DefaultMeasurement = 2;
-    metric.Language = 2;  // counts at the next start
-    document.document.TakeUnits(metric);
+    metric.Language = 2;  // the analysis keeps its own
+    document.document.TakeSettings(metric);
     EXPECT_EQ(document.Content(2), inches);
     ASSERT_FALSE(document.Select(3));
     EXPECT_EQ(document.Content(3), HeadLines("PTX (Presentation Text Data, x'D3 EE 9B')", 12, 10) +
                                        "Size in X direction: 720   (12.7 mm)\r\n");
 }
 
-TEST(TakeUnits, CountsInARunAlsoForRecordsThatWereSeenBefore)
+TEST(TakeSettings, CountsInARunAlsoForRecordsThatWereSeenBefore)
 {
     const Bytes descriptor = Pieces("00 00 0960 0960 0000F0 0000F0 00*3");
     AfpFile file;
@@ -344,7 +344,7 @@ TEST(TakeUnits, CountsInARunAlsoForRecordsThatWereSeenBefore)
     document.host.onGiveWay = [&] {
         Settings metric;
         metric.DefaultMeasurement = 2;
-        document.document.TakeUnits(metric);
+        document.document.TakeSettings(metric);
         from = document.Tree().Nodes().Size();
     };
     document.Run();
@@ -356,7 +356,7 @@ TEST(TakeUnits, CountsInARunAlsoForRecordsThatWereSeenBefore)
 }
 
 // A line width that is given in normal widths follows the setting, until a file gives its own.
-TEST(TakeUnits, SetsTheNormalLineWidth)
+TEST(TakeSettings, SetsTheNormalLineWidth)
 {
     AfpFile file;
     file.Add("GAD", Pieces("19 02"));
@@ -366,7 +366,7 @@ TEST(TakeUnits, SetsTheNormalLineWidth)
     document.host.onGiveWay = [&] {
         Settings thicker;
         thicker.NormalLineWidth = 0;
-        document.document.TakeUnits(thicker);
+        document.document.TakeSettings(thicker);
     };
     document.Run();
     ASSERT_EQ(document.host.waysGiven, 1);
