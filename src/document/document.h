@@ -75,9 +75,9 @@ public:
     // Whether records that come again are told from memory, which is the default. It changes nothing but the speed.
     void TellRepeatedFromMemory(bool remember) { remembers_ = remember; }
 
-    // What other settings change in an open document: DefaultMeasurement and NormalLineWidth for the texts that are made
-    // from now on, also in a run, and the language of message boxes and of the dump's head. Texts that are there stay as
-    // they are, and the analysis keeps its language.
+    // What other settings change in an open document: DefaultMeasurement and NormalLineWidth for the texts that are
+    // made from now on, also in a run, and the language of message boxes and of the dump's head. Texts that are there
+    // stay as they are, and the analysis keeps its language.
     void TakeSettings(const Settings& settings);
 
     std::int32_t SFCount() const { return lngSFCount_; }

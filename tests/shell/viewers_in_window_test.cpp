@@ -26,6 +26,7 @@
 #include "support/temporary_file.h"
 #include "viewers/frmOptions.h"
 #include "viewers/preview_pane.h"
+#include "viewers/qt_text.h"
 #include "viewers/ve_view.h"
 
 namespace folioscope {
@@ -179,6 +180,7 @@ void ViewersInWindowTest::triesALanguageInTheWholeProgram()
 
 void ViewersInWindowTest::keepsALanguageThatIsConfirmed()
 {
+    Open(Brochure());
     WhenOpen<frmOptions>([&](frmOptions& options) {
         options.findChild<QListWidget*>("lstLanguage")->setCurrentRow(2);
         options.accept();
@@ -186,6 +188,9 @@ void ViewersInWindowTest::keepsALanguageThatIsConfirmed()
     window_->mnuExtrasOptions();
     QCOMPARE(FileMenu(), "&Fichier");
     QCOMPARE(ReadSettings(state_->store).Language, 3);
+    QString saved = ToQt(Labels(Language::French), U("Dump has been saved as %1!"));
+    saved.replace("%1", window_->ActiveDocument()->Path() + ".txt");
+    QCOMPARE(TextOfNextBox([&] { window_->mnuFileSaveDump(); }), saved);
 }
 
 void ViewersInWindowTest::showsOtherUnitsInTheNextText()
