@@ -16,6 +16,7 @@
 
 #include <memory>
 
+#include "shell/command_line.h"
 #include "shell/divider.h"
 #include "shell/fly_tree.h"
 #include "shell/frmMainWindow.h"
@@ -86,6 +87,8 @@ private Q_SLOTS:
     void keepsRecentFiles();
     void opensASecondDocumentInAnotherProcess();
     void reloadsInAnotherProcess();
+    void theOtherProcessFindsAPathWithoutBlanks_data();
+    void theOtherProcessFindsAPathWithoutBlanks();
     void aDropOpensEachFile();
     void closingADocumentEndsItsCommands();
     void aRunCanBeCancelled();
@@ -226,6 +229,37 @@ void FrmMainWindowTest::reloadsInAnotherProcess()
     window_->ProcessFile(path);
     QCOMPARE(Tree().Selected(), 6u);
     QCOMPARE(state_->strReloadNode, "");
+}
+
+void FrmMainWindowTest::theOtherProcessFindsAPathWithoutBlanks_data()
+{
+    QTest::addColumn<uint>("node");
+    QTest::addColumn<uint>("found");
+    QTest::newRow("Document^BDT") << 3u << 3u;
+    QTest::newRow("Document^Page 1^PTX, cut at its blank") << 7u << NodeStore::kRoot;
+}
+
+void FrmMainWindowTest::theOtherProcessFindsAPathWithoutBlanks()
+{
+    QFETCH(uint, node);
+    QFETCH(uint, found);
+    state_->settings.ShowBESF = 0;  // its names follow a blank
+    const QString path = File("a.afp", Letter());
+    window_->ProcessFile(path);
+    Tree().Select(node);
+    window_->mnuFileReload();
+    QTRY_VERIFY(window_->findChild<FlyTree*>() == nullptr);
+
+    std::vector<std::string> arguments = {"fsv"};
+    for (const QString& argument : started_.at(0)) arguments.push_back(argument.toStdString());
+    std::vector<const char*> argv;
+    for (const std::string& argument : arguments) argv.push_back(argument.c_str());
+    const CommandLine line = ParseCommandLine(JoinArguments(static_cast<int>(argv.size()), argv.data()));
+    QVERIFY(line.bolFromFSV);
+    QCOMPARE(QString::fromStdString(line.strStartFile), path);
+    state_->strReloadNode = line.strReloadNode;
+    window_->ProcessFile(path);
+    QCOMPARE(Tree().Selected(), found);
 }
 
 void FrmMainWindowTest::aDropOpensEachFile()
