@@ -352,6 +352,14 @@ void frmParserWindow::resizeEvent(QResizeEvent* event)
     if (!isMinimized()) PlacePanes();
 }
 
+QSize frmParserWindow::sizeHint() const
+{
+    constexpr QSize kLeast(kSmallest, 400);
+    const QWidget* const frame = parentWidget();
+    const QWidget* const area = frame != nullptr ? frame->parentWidget() : nullptr;
+    return area != nullptr ? (area->size() * 3 / 4).expandedTo(kLeast) : kLeast;
+}
+
 void frmParserWindow::PlacePanes()
 {
     const PaneLayout& panes = state_.panes;
