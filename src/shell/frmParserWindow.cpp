@@ -86,6 +86,10 @@ QWidget* frmParserWindow::MakeStatusBar()
     row->addWidget(lblSFCount_);
     pgbProgress_->setTextVisible(false);
     pgbProgress_->hide();
+    // The bar keeps its height when an operation begins or ends.
+    QSizePolicy kept = cmdCancel_->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    cmdCancel_->setSizePolicy(kept);
     cmdCancel_->hide();
     return bar;
 }

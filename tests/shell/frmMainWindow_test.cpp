@@ -95,6 +95,7 @@ private Q_SLOTS:
     void asksBeforeItReplacesADump();
     void expandsAndCollapsesTheTree();
     void aWindowThatIsNotMaximisedShowsItsPanes();
+    void theStatusBarKeepsItsHeight();
     void dividersStayInTheirBounds();
     void tellsOfAFileThatIsNotThere();
     void extractsADumpWhenItWasStartedForThat();
@@ -341,6 +342,18 @@ void FrmMainWindowTest::aWindowThatIsNotMaximisedShowsItsPanes()
     QVERIFY(isRoomy());
     window_->mnuWindowsTileVertical();
     QVERIFY(Tree().height() > 300);
+}
+
+void FrmMainWindowTest::theStatusBarKeepsItsHeight()
+{
+    window_->ProcessFile(File("a.afp", Letter()));
+    auto* const bar = window_->findChild<QWidget*>("picStatusBar");
+    auto* const cancel = window_->findChild<QPushButton*>("cmdCancel");
+    const int idle = bar->sizeHint().height();
+    QVERIFY(cancel->isHidden());
+    QCOMPARE(bar->height(), idle);
+    cancel->show();
+    QCOMPARE(bar->sizeHint().height(), idle);
 }
 
 void FrmMainWindowTest::dividersStayInTheirBounds()
