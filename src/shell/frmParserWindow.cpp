@@ -86,6 +86,10 @@ QWidget* frmParserWindow::MakeStatusBar()
     row->addWidget(lblSFCount_);
     pgbProgress_->setTextVisible(false);
     pgbProgress_->hide();
+    // The bar keeps its height when an operation begins or ends.
+    QSizePolicy kept = cmdCancel_->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    cmdCancel_->setSizePolicy(kept);
     cmdCancel_->hide();
     return bar;
 }
@@ -350,6 +354,14 @@ void frmParserWindow::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     picHex_->SetWindowWidth(width());
     if (!isMinimized()) PlacePanes();
+}
+
+QSize frmParserWindow::sizeHint() const
+{
+    constexpr QSize kLeast(kSmallest, 400);
+    const QWidget* const frame = parentWidget();
+    const QWidget* const area = frame != nullptr ? frame->parentWidget() : nullptr;
+    return area != nullptr ? (area->size() * 3 / 4).expandedTo(kLeast) : kLeast;
 }
 
 void frmParserWindow::PlacePanes()

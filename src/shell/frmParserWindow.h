@@ -57,6 +57,9 @@ public:
     void ShowPreview();
     PreviewPane& Pages() { return *picViewFrame_; }
 
+    // What the window gets that isn't as large as its area: three quarters of that.
+    QSize sizeHint() const override;
+
     void SetTexts();   // of the language in force
     void TakeSettings();  // what was changed in the options holds from now on
 

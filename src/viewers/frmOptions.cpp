@@ -215,7 +215,10 @@ void frmOptions::LoadResourceFolders()
 
 void frmOptions::showEvent(QShowEvent* event)
 {
-    if (!event->spontaneous()) LoadControls();
+    if (!event->spontaneous()) {
+        LoadControls();
+        TabOptions_->setFocus();
+    }
     QDialog::showEvent(event);
 }
 

@@ -329,24 +329,26 @@ void HexPane::TakeFont()
 // At some scales the lower line of the frame is painted a little further in.
 int HexPane::FrameWidth() const { return sheet_->frameWidth() + 1; }
 
-// The combo box above, the sheet with the columns below it, and beside the sheet its scroll bar.
+// The combo box above, the sheet with the columns below it, and at its side, where there are more lines than fit, its
+// scroll bar. Whether the columns find room is decided as if that were there, so that they stay where they are.
 void HexPane::Place()
 {
     const int bar = sclHex_->sizeHint().width(), frame = FrameWidth();
     const int top = cmbHexCodepage_->sizeHint().height() + 2 * kEdge;
-    const int wide = std::min(SheetWidth() + 2 * frame, std::max(width() - bar - 2 * kEdge, 0));
     const int high = std::max(height() - top - kEdge, 0);
-    sheet_->setGeometry(kEdge, top, wide, high);
-    sclHex_->setGeometry(kEdge + wide, top, bar, high);
-
-    const int inner = std::max(wide - 2 * frame, 0);
-    const bool narrow = inner < SheetWidth();
+    const auto inside = [&](int beside) { return std::max(width() - beside - 2 * (kEdge + frame), 0); };
+    const bool narrow = inside(bar) < SheetWidth();
     const int below = narrow ? across_->sizeHint().height() : 0;
-    picHexArea_->setGeometry(frame, frame, inner, std::max(high - 2 * frame - below, 0));
-    across_->setGeometry(kEdge + frame, top + high - frame - below, inner, below);
+    const int lines = std::max(high - 2 * frame - below, 0);
+    const int wide = inside(Scroll(lines).needed ? bar : 0);
+
+    sheet_->setGeometry(kEdge, top, wide + 2 * frame, high);
+    sclHex_->setGeometry(width() - kEdge - bar, top, bar, high);
+    picHexArea_->setGeometry(frame, frame, wide, lines);
+    across_->setGeometry(kEdge + frame, top + high - frame - below, wide, below);
     across_->setVisible(narrow);
-    across_->setRange(0, narrow ? SheetWidth() - inner : 0);
-    across_->setPageStep(std::max(inner, 1));
+    across_->setRange(0, narrow ? std::max(SheetWidth() - wide, 0) : 0);
+    across_->setPageStep(std::max(wide, 1));
     across_->setSingleStep(3 * PaneOf(Byte).fontMetrics().horizontalAdvance(QLatin1Char('0')));
     PlaceColumns();
     PlaceScrollBar();
@@ -371,12 +373,16 @@ void HexPane::PlaceColumns()
     cmbHexCodepage_->setGeometry(right - wide, kEdge, wide, cmbHexCodepage_->sizeHint().height());
 }
 
+HexScroll HexPane::Scroll(int height) const
+{
+    return ScrollFor(window_.length, fit_.bytesPerLine, Twips(height), Twips(PaneOf(Byte).LineHeight()));
+}
+
 // The byte that is the current one stays it.
 void HexPane::PlaceScrollBar()
 {
     const QScopedValueRollback updating(HexUpdating_, true);
-    const HexScroll scroll =
-        ScrollFor(window_.length, fit_.bytesPerLine, Twips(picHexArea_->height()), Twips(PaneOf(Byte).LineHeight()));
+    const HexScroll scroll = Scroll(picHexArea_->height());
     sclHex_->setVisible(scroll.needed);
     sclHex_->setRange(0, scroll.last);
     sclHex_->setSingleStep(1);

@@ -71,6 +71,7 @@ private:
     void TakeFont();
     void Place();
     void PlaceColumns();
+    HexScroll Scroll(int height) const;  // if the lines have so many pixels
     void PlaceScrollBar();
     int ColumnWidth(HexColumn column) const;
     int SheetWidth() const;

@@ -42,15 +42,17 @@ def catalog(path):
 
 
 class Home:
-    """Where a user's files lie, the settings store among them."""
+    """Where a user's files lie, the settings store among them; there is none before its first start is confirmed."""
 
-    def __init__(self, folder, **settings):
+    def __init__(self, folder, confirmed=True, **settings):
         self.folder = folder
         self.store = os.path.join(folder, "config", "Marrowgate", "registry.ini")
         os.makedirs(os.path.dirname(self.store))
         os.makedirs(os.path.join(folder, "run"), mode=0o700)
         values = {"InitResourcePaths": 1, "Codepage": 37, "TechnicalEnglish": 0, "MessageWindow": 0, "HexViewer": 0,
                   "UsePreviewWindow": 0, **settings}
+        if not confirmed:
+            return
         with open(self.store, "w", encoding="utf-8") as file:
             file.write(f"[{SETTINGS}]\n")
             file.writelines(f"{name}=dword:{number}\n" for name, number in values.items())
@@ -120,7 +122,7 @@ class Program:
 
         def copied():
             # At the end of a run the tree takes the focus, wherever Tab has led meanwhile.
-            self.screen.click(left + width * 7 // 10, top + height * 4 // 5)
+            self.screen.click(left + width // 2, top + height * 7 // 10)
             self.screen.keys("ctrl+a", "ctrl+c", "shift+Tab")
             last[0] = self.screen.clipboard()
             return expected(last[0])

@@ -51,7 +51,7 @@ class RealWindow(unittest.TestCase):
         self.rows = [Row(line) for line in dump("--tree", self.sample).splitlines()]
         self.pictures = 0
 
-    def start(self, name, language="en", screen=(1280, 900), dark=False, environment=None, **settings):
+    def launch(self, name, language="en", screen=(1280, 900), dark=False, environment=None, **settings):
         self.name = name
         self.words = {english: texts[language] for english, texts in WORDS.items()}
         home = os.path.join(self.folder, name)
@@ -62,6 +62,12 @@ class RealWindow(unittest.TestCase):
         look = {**(self.home.be_dark() if dark else {}), **(environment or {})}
         self.program = Program(FSV, self.screen, self.home, [self.sample], look)
         self.addCleanup(self.program.close)
+
+    def start(self, name, language="en", **options):
+        self.launch(name, language, **options)
+        self.opened()
+
+    def opened(self):
         wait_for("the file's name in the title", lambda: self.sample in self.program.title())
         self.program.to_front()
         self.at_root()
@@ -98,6 +104,19 @@ class RealWindow(unittest.TestCase):
     def texts_of(window):
         left = window.width * 2 // 5
         return window.part(left, window.height // 6, window.width - left - 20, window.height * 3 // 4)
+
+    @staticmethod
+    def menus_of(window):
+        return window.part(0, 0, window.width // 2, window.height // 45)
+
+    @staticmethod
+    def bytes_of(window):
+        return window.part(0, window.height * 4 // 5, window.width, window.height // 7)
+
+    @staticmethod
+    def pages_of(window):
+        left = window.width * 3 // 4
+        return window.part(left, window.height // 8, window.width - left, window.height * 2 // 3)
 
     def at_root(self):
         return self.program.properties(lambda text: self.sample in text.split("\n")[0])
@@ -263,6 +282,36 @@ class RealWindow(unittest.TestCase):
         self.assertEqual(settings["LastFilesList1"], self.sample)
         self.assertEqual(settings["Language"], LANGUAGES[language])
 
+    def open_options(self, title="Options"):
+        """The dialog, with the list of the languages in hand."""
+        dialog = self.program.wait_for_window(f"^{title}$")
+        self.screen.focus(dialog)
+        self.screen.keys("Tab")
+        return dialog
+
+    def choose_language(self, language, *keys):
+        """In the list, from English on: the words of all windows change at once."""
+        self.screen.keys("ctrl+comma")
+        dialog = self.open_options()
+        before = self.look("options")
+        self.screen.keys(*keys)
+        self.wait_for_news(self.menus_of, before)
+        self.look("options-" + language)
+        self.assertEqual(self.screen.title(dialog), WORDS["Options"][language])
+        return self.menus_of(before)
+
+    def end_of_options(self, language, key):
+        self.screen.keys(key)
+        self.program.wait_till_gone(f"^{WORDS['Options'][language]}$")
+        self.program.to_front()
+
+    def record(self, steps):
+        """Goes to a record from the root of the open tree; the bytes follow."""
+        before = self.now()
+        self.screen.keys("Home", *["Down"] * steps)
+        self.at(self.rows[steps])
+        return self.wait_for_news(self.bytes_of, before)
+
     # -------------------------------------------------------------------------------------------------------- tests
 
     def test_english(self):
@@ -308,6 +357,74 @@ class RealWindow(unittest.TestCase):
         self.find()
         self.read_messages()
         self.quit()
+
+    def test_first_start(self):
+        self.launch("first-start", confirmed=False)
+        dialog = self.open_options()
+        self.assertNotIn(self.sample, self.program.title())
+        self.assertNotIn("InitResourcePaths", self.home.settings())
+        before = self.look("options")
+        # The dialog is still there for the keys that come behind Escape.
+        self.screen.keys("Escape", "ctrl+Tab", "shift+Tab", "ctrl+Tab")
+        wait_for("the next page of the options", lambda: self.now() != before)
+        self.look("code-pages")
+        self.assertEqual(self.screen.windows("^Options$"), [dialog])
+        self.assertNotIn("InitResourcePaths", self.home.settings())
+        self.screen.keys("Return")
+        self.program.wait_till_gone("^Options$")
+        self.opened()
+        self.look("opened")
+        settings = self.home.settings()
+        expected = {"InitResourcePaths": 1, "Language": 1, "TechnicalEnglish": 0, "Codepage": 37, "CodepageNOP": 37,
+                    "CodepageTLE": 37, "NormalLineWidth": 1, "DefaultMeasurement": 0}
+        self.assertEqual({name: settings.get(name) for name in expected}, expected)
+        self.quit()
+        self.assertEqual(self.home.settings()["LastFilesList1"], self.sample)
+
+    def test_options(self):
+        self.start("options")
+        english = self.choose_language("de", "Down")
+        self.end_of_options("de", "Escape")
+        wait_for("the English words", lambda: self.menus_of(self.now()) == english)
+        self.assertEqual(self.home.settings()["Language"], 1)
+        self.choose_language("fr", "Down", "Down")
+        self.end_of_options("fr", "Return")
+        self.assertNotEqual(self.menus_of(self.now()), english)
+        self.assertEqual(self.home.settings()["Language"], 3)
+        self.words = {text: texts["fr"] for text, texts in WORDS.items()}
+        self.open_menus()
+        self.read_help()
+        self.quit()
+        self.assertEqual(self.home.settings()["Language"], 3)
+
+    def test_viewers(self):
+        self.start("viewers", HexViewer=1, UsePreviewWindow=1)
+        self.look("root")
+        self.screen.keys("ctrl+e", "End")
+        self.at(self.rows[-1])
+        name = self.record(self.row("BNG"))
+        text = self.record(self.row("PTX"))
+        self.assertNotEqual(name, text)
+        self.assertTrue(any(red > 200 > 100 > max(blue, green) for blue, green, red in text.colours()))
+        shown = self.look("record")
+        self.assertGreater(self.pages_of(shown).lightness(), 250)
+        self.screen.keys("F4")
+        self.wait_for_news(self.pages_of, shown)
+        self.look("without-pages")
+        self.screen.keys("F4")
+        wait_for("the page as before", lambda: self.pages_of(self.now()) == self.pages_of(shown))
+        self.turn_the_page(shown)
+        self.quit()
+
+    def turn_the_page(self, shown):
+        """In the pages: the tree follows to the end of the next one."""
+        left, top, width, height = self.screen.place(self.program.window)
+        self.screen.click(left + width * 5 // 6, top + height * 2 // 5)
+        self.screen.keys("Next")
+        self.wait_for_news(self.tree_of, shown)
+        ends = [row for row in self.rows if row.text.startswith("EPG")]
+        self.at(ends[1])
+        self.look("next-page")
 
 
 if __name__ == "__main__":

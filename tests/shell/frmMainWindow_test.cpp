@@ -97,6 +97,8 @@ private Q_SLOTS:
     void savesTheDumpBesideTheFile();
     void asksBeforeItReplacesADump();
     void expandsAndCollapsesTheTree();
+    void aWindowThatIsNotMaximisedShowsItsPanes();
+    void theStatusBarKeepsItsHeight();
     void dividersStayInTheirBounds();
     void tellsOfAFileThatIsNotThere();
     void extractsADumpWhenItWasStartedForThat();
@@ -359,6 +361,33 @@ void FrmMainWindowTest::expandsAndCollapsesTheTree()
     QVERIFY(Tree().IsExpanded(2) && Tree().IsExpanded(4));
     window_->mnuEditTreeCollapse();
     QVERIFY(!Tree().IsExpanded(2) && !Tree().IsExpanded(NodeStore::kRoot));
+}
+
+void FrmMainWindowTest::aWindowThatIsNotMaximisedShowsItsPanes()
+{
+    window_->ProcessFile(File("a.afp", Letter()));
+    const auto* const document = window_->ActiveDocument();
+    const auto isRoomy = [&] { return Tree().height() > 200 && document->width() > 600 && document->width() < 1000; };
+    document->parentWidget()->showNormal();
+    QVERIFY(isRoomy());
+    document->parentWidget()->showMaximized();
+    QCOMPARE(document->width(), 1000);
+    window_->mnuWindowsCascade();
+    QVERIFY(isRoomy());
+    window_->mnuWindowsTileVertical();
+    QVERIFY(Tree().height() > 300);
+}
+
+void FrmMainWindowTest::theStatusBarKeepsItsHeight()
+{
+    window_->ProcessFile(File("a.afp", Letter()));
+    auto* const bar = window_->findChild<QWidget*>("picStatusBar");
+    auto* const cancel = window_->findChild<QPushButton*>("cmdCancel");
+    const int idle = bar->sizeHint().height();
+    QVERIFY(cancel->isHidden());
+    QCOMPARE(bar->height(), idle);
+    cancel->show();
+    QCOMPARE(bar->sizeHint().height(), idle);
 }
 
 void FrmMainWindowTest::dividersStayInTheirBounds()

@@ -88,6 +88,7 @@ private Q_SLOTS:
     void enterIsOK();
     void theFirstStartCanOnlyBeConfirmed();
     void staysAtTheTabThatWasLast();
+    void beginsAtTheTabsEachTime();
 
 private:
     int Shown(const Row& row) const;
@@ -389,6 +390,16 @@ void FrmOptionsTest::theFirstStartCanOnlyBeConfirmed()
     desk_->dialog->show();
     QTest::keyClick(desk_->dialog.get(), Qt::Key_Escape);
     QVERIFY(!desk_->dialog->isVisible());
+}
+
+void FrmOptionsTest::beginsAtTheTabsEachTime()
+{
+    for (int time = 0; time < 2; ++time) {
+        desk_->dialog->show();
+        QCOMPARE(desk_->dialog->focusWidget(), desk_->Find<QTabWidget>("TabOptions").tabBar());
+        desk_->Find<QPushButton>("btnOK").setFocus();
+        desk_->Click("btnCancel");
+    }
 }
 
 void FrmOptionsTest::staysAtTheTabThatWasLast()

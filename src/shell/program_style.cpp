@@ -1,0 +1,126 @@
+#include "shell/program_style.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QStyleOptionMenuItem>
+#include <QWidget>
+
+#include <algorithm>
+
+#include "shell/icons.h"
+#include "shell/shade.h"
+
+namespace folioscope {
+
+namespace {
+
+// Frames that a style of light colours derives from the ground, darker than it.
+struct OutlineRow {
+    QStyle::PrimitiveElement part;
+    int shade;  // percent
+    double radius;
+};
+
+struct SignRow {
+    QStyle::StandardPixmap picture;
+    const char *ofDesktop, *own;
+};
+
+// clang-format off
+constexpr OutlineRow kOutlines[] = {
+    {QStyle::PE_IndicatorCheckBox, 60, 0},
+    {QStyle::PE_FrameLineEdit,     40, 2},
+    {QStyle::PE_PanelMenu,        30, 0},
+    {QStyle::PE_Frame,             20, 0},
+};
+
+constexpr SignRow kSigns[] = {
+    {QStyle::SP_MessageBoxCritical,    "dialog-error",       "sign_critical"},
+    {QStyle::SP_MessageBoxInformation, "dialog-information", "sign_information"},
+    {QStyle::SP_MessageBoxQuestion,    "dialog-question",    "sign_question"},
+    {QStyle::SP_MessageBoxWarning,     "dialog-warning",     "sign_warning"},
+};
+
+constexpr QStyle::StandardPixmap kFrameButtons[] = {
+    QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton, QStyle::SP_TitleBarCloseButton,
+};
+// clang-format on
+
+void DrawOutline(const OutlineRow& row, const QStyleOption& option, QPainter& painter)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, row.radius > 0);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(ShadeOf(option.palette, row.shade));
+    const QRectF frame = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.drawRoundedRect(frame, row.radius, row.radius);
+    painter.restore();
+}
+
+// Items of menus are drawn as active ones, as are buttons under the pointer, but on the colour of a selection.
+QStyleOptionMenuItem WithIconForSelection(QStyleOptionMenuItem item, qreal scale, int side)
+{
+    const QPixmap selected = item.icon.pixmap(QSize(side, side), scale, QIcon::Selected);
+    item.icon = QIcon();
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Active}) item.icon.addPixmap(selected, mode);
+    return item;
+}
+
+QPixmap InColour(QPixmap drawn, const QColor& colour)
+{
+    QPainter painter(&drawn);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(drawn.rect(), colour);
+    return drawn;
+}
+
+QIcon InColourOfText(const QIcon& icon, const QPalette& palette)
+{
+    QIcon coloured;
+    for (const QSize& size : icon.availableSizes())
+        coloured.addPixmap(InColour(icon.pixmap(size, 1.0), palette.color(QPalette::WindowText)));
+    return coloured.isNull() ? icon : coloured;
+}
+
+}  // namespace
+
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* answer) const
+{
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const auto* const row = std::ranges::find(kOutlines, element, &OutlineRow::part);
+    if (row == std::end(kOutlines) || option == nullptr || !IsGroundDark(option->palette)) return;
+    // The one that has the keyboard keeps its own colour.
+    if ((option->state & State_HasFocus) == 0) DrawOutline(*row, *option, *painter);
+}
+
+void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    constexpr State kChosen = State_Selected | State_Enabled;
+    if (element != CE_MenuItem || item == nullptr || item->icon.isNull() || (item->state & kChosen) != kChosen)
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    const qreal scale = painter->device() != nullptr ? painter->device()->devicePixelRatio() : 1.0;
+    const QStyleOptionMenuItem shown =
+        WithIconForSelection(*item, scale, pixelMetric(PM_SmallIconSize, option, widget));
+    QProxyStyle::drawControl(element, &shown, painter, widget);
+}
+
+QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const
+{
+    const auto* const sign = std::ranges::find(kSigns, picture, &SignRow::picture);
+    if (sign != std::end(kSigns) && !QIcon::hasThemeIcon(QLatin1String(sign->ofDesktop))) return ToolbarIcon(sign->own);
+    const QIcon icon = QProxyStyle::standardIcon(picture, option, widget);
+    const QPalette palette = widget != nullptr ? widget->palette() : QGuiApplication::palette();
+    const bool isFrameButton = std::ranges::find(kFrameButtons, picture) != std::end(kFrameButtons);
+    return isFrameButton && IsGroundDark(palette) ? InColourOfText(icon, palette) : icon;
+}
+
+}  // namespace folioscope
