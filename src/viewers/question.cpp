@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "viewers/access_keys.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {
@@ -14,6 +15,7 @@ bool AskUser(QWidget* parent, const Labels& texts, const QString& question)
     box.setTextFormat(Qt::PlainText);
     box.button(QMessageBox::Yes)->setText(ToQt(texts, L("Yes")));
     box.button(QMessageBox::No)->setText(ToQt(texts, L("No")));
+    GiveAccessKeys({box.button(QMessageBox::Yes), box.button(QMessageBox::No)}, {});
     return box.exec() == QMessageBox::Yes;
 }
 
