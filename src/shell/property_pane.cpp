@@ -10,6 +10,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextOption>
@@ -27,7 +28,7 @@ namespace folioscope {
 namespace {
 
 // In device independent pixels. Behind the last tab stop they follow each other at the usual distance.
-constexpr qreal kFirstTab = 106, kSecondTab = 269, kUsualTab = 48, kTabGap = 4;
+constexpr qreal kFirstTab = 106, kSecondTab = 269, kUsualTab = 48, kTabGap = 4, kContinued = 16;
 constexpr int kHeadLines = 3;
 
 // Long values wrap under their own start, which is the first tab stop.
@@ -39,6 +40,15 @@ QTextBlockFormat LineFormat(qreal firstTab)
     format.setTabPositions({QTextOption::Tab(firstTab, QTextOption::LeftTab),
                             QTextOption::Tab(std::max(kSecondTab, firstTab + kUsualTab), QTextOption::LeftTab)});
     return format;
+}
+
+// A line without a value beside it goes on nearly where it begins.
+void IndentPlainLines(QTextDocument& document, QTextBlockFormat format)
+{
+    format.setLeftMargin(kContinued);
+    format.setTextIndent(-kContinued);
+    for (QTextBlock line = document.begin(); line.isValid(); line = line.next())
+        if (!line.text().contains(QLatin1Char('\t'))) QTextCursor(line).setBlockFormat(format);
 }
 
 // The tab stop stands further right where the words of the head lines are too long for it, as in French or in a large
@@ -101,11 +111,13 @@ void PropertyPane::Fill()
     next->setDefaultTextOption(document()->defaultTextOption());
     QTextCursor cursor(next);
     cursor.beginEditBlock();
-    cursor.setBlockFormat(LineFormat(FirstTabFor(marked_, font())));
+    const QTextBlockFormat format = LineFormat(FirstTabFor(marked_, font()));
+    cursor.setBlockFormat(format);
     ForEachPiece(marked_, [&](QStringView piece, const TextLook& look) {
         if (look.colour == TextColour::Blue) link_ += piece;
         cursor.insertText(piece.toString(), FormatOf(look));
     });
+    IndentPlainLines(*next, format);
     cursor.endEditBlock();
     setDocument(next);
     verticalScrollBar()->setValue(0);

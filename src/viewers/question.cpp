@@ -15,7 +15,7 @@ bool AskUser(QWidget* parent, const Labels& texts, const QString& question)
     box.setTextFormat(Qt::PlainText);
     box.button(QMessageBox::Yes)->setText(ToQt(texts, L("Yes")));
     box.button(QMessageBox::No)->setText(ToQt(texts, L("No")));
-    GiveAccessKeys(box);
+    GiveAccessKeys({box.button(QMessageBox::Yes), box.button(QMessageBox::No)}, {});
     return box.exec() == QMessageBox::Yes;
 }
 

@@ -165,6 +165,20 @@ private Q_SLOTS:
         QCOMPARE(pane.horizontalScrollBar()->maximum(), 0);
     }
 
+    void ALongLineWithoutATabGoesOnNearItsBegin()
+    {
+        PropertyPane pane(kEnglish);
+        pane.resize(300, 300);
+        pane.show();
+        pane.ShowPropertyText("a\tb\r\n" + std::string(100, 'w') + "\r\nc\td\r\n");
+        const QTextBlock sentence = pane.document()->findBlockByNumber(1);
+        QVERIFY(sentence.layout()->lineCount() > 1);
+        QCOMPARE(LeftOf(pane, sentence.position()), 0);
+        QCOMPARE(LeftOf(pane, sentence.position() + sentence.layout()->lineAt(1).textStart()), 16);
+        for (const int line : {0, 2})
+            QCOMPARE(LeftOf(pane, pane.document()->findBlockByNumber(line).position() + 2), 106);
+    }
+
     void AWordThatIsTooLongForTheFirstTabMovesItForAllLines()
     {
         PropertyPane pane(kEnglish);

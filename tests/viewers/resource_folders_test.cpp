@@ -251,11 +251,11 @@ void ResourceFoldersTest::asksInTheLanguageInForce_data()
     QTest::addColumn<int>("language");
     QTest::addColumn<QStringList>("words");
     QTest::addColumn<bool>("yes");
-    QTest::newRow("English") << 1 << QStringList({"Question", "Really delete this entry?", "Yes", "No"}) << true;
-    QTest::newRow("German") << 2 << QStringList({"Frage", "Diesen Eintrag wirklich löschen?", "Ja", "Nein"}) << false;
+    QTest::newRow("English") << 1 << QStringList({"Question", "Really delete this entry?", "&Yes", "&No"}) << true;
+    QTest::newRow("German") << 2 << QStringList({"Frage", "Diesen Eintrag wirklich löschen?", "&Ja", "&Nein"}) << false;
     QTest::newRow("French") << 3
                             << QStringList(
-                                   {"Question", "Voulez-vous vraiment supprimer cette entrée\u00A0?", "Oui", "Non"})
+                                   {"Question", "Voulez-vous vraiment supprimer cette entrée\u00A0?", "&Oui", "&Non"})
                             << true;
 }
 
@@ -269,7 +269,7 @@ void ResourceFoldersTest::asksInTheLanguageInForce()
     QStringList shown;
     const Answer<QMessageBox> answer([&](QMessageBox& box) {
         shown << box.windowTitle() << box.text();
-        for (const auto button : {QMessageBox::Yes, QMessageBox::No}) shown += box.button(button)->text().remove('&');
+        for (const auto button : {QMessageBox::Yes, QMessageBox::No}) shown += box.button(button)->text();
         box.button(yes ? QMessageBox::Yes : QMessageBox::No)->click();
     });
     desk_->Click("cmdResourcesRemove");
