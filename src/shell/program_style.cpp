@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QPainter>
+#include <QStyleOptionGroupBox>
 #include <QStyleOptionMenuItem>
 #include <QWidget>
 
@@ -14,7 +15,7 @@ namespace folioscope {
 
 namespace {
 
-// Frames that a style of light colours derives from the ground, darker than it.
+// Frames that Qt's own style derives from the ground, darker than it.
 struct OutlineRow {
     QStyle::PrimitiveElement part;
     int shade;  // percent
@@ -46,13 +47,15 @@ constexpr QStyle::StandardPixmap kFrameButtons[] = {
 };
 // clang-format on
 
-void DrawOutline(const OutlineRow& row, const QStyleOption& option, QPainter& painter)
+constexpr OutlineRow kGroupBox = {QStyle::PE_FrameGroupBox, 25, 2};
+
+void DrawOutline(const OutlineRow& row, const QStyleOption& option, const QRect& rect, QPainter& painter)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, row.radius > 0);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(ShadeOf(option.palette, row.shade));
-    const QRectF frame = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    const QRectF frame = QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.drawRoundedRect(frame, row.radius, row.radius);
     painter.restore();
 }
@@ -84,6 +87,12 @@ QIcon InColourOfText(const QIcon& icon, const QPalette& palette)
 
 }  // namespace
 
+// The style of Qt that is made for light grounds. Those of a desktop know theirs.
+bool ProgramStyle::IsTooDark(const QPalette& palette) const
+{
+    return IsGroundDark(palette) && baseStyle()->name() == QLatin1String("fusion");
+}
+
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* answer) const
 {
@@ -95,9 +104,23 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const auto* const row = std::ranges::find(kOutlines, element, &OutlineRow::part);
-    if (row == std::end(kOutlines) || option == nullptr || !IsGroundDark(option->palette)) return;
+    if (row == std::end(kOutlines) || option == nullptr || !IsTooDark(option->palette)) return;
     // The one that has the keyboard keeps its own colour.
-    if ((option->state & State_HasFocus) == 0) DrawOutline(*row, *option, *painter);
+    if ((option->state & State_HasFocus) == 0) DrawOutline(*row, *option, option->rect, *painter);
+}
+
+void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                      const QWidget* widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const auto* const box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    if (control != CC_GroupBox || box == nullptr || !IsTooDark(box->palette)) return;
+    // The frame begins below its title.
+    constexpr int kAbove = 3;
+    const int title =
+        box->text.isEmpty() ? 0 : std::max(pixelMetric(PM_IndicatorHeight, option), box->fontMetrics.height());
+    const QRect frame = subControlRect(CC_GroupBox, option, SC_GroupBoxFrame, widget);
+    DrawOutline(kGroupBox, *option, frame.adjusted(0, title + kAbove, 0, 0), *painter);
 }
 
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -120,7 +143,7 @@ QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* opt
     const QIcon icon = QProxyStyle::standardIcon(picture, option, widget);
     const QPalette palette = widget != nullptr ? widget->palette() : QGuiApplication::palette();
     const bool isFrameButton = std::ranges::find(kFrameButtons, picture) != std::end(kFrameButtons);
-    return isFrameButton && IsGroundDark(palette) ? InColourOfText(icon, palette) : icon;
+    return isFrameButton && IsTooDark(palette) ? InColourOfText(icon, palette) : icon;
 }
 
 }  // namespace folioscope

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QGroupBox>
 #include <QImage>
 #include <QLineEdit>
 #include <QMenu>
@@ -75,6 +76,22 @@ private Q_SLOTS:
             line.resize(line.sizeHint());
             const QImage edge = line.grab().toImage();
             QVERIFY2(Contrast(edge, 0, 10, 30) > 40, qPrintable(ground.name()));
+        }
+    }
+
+    void AFrameStandsOffTheGroundBelowItsTitle()
+    {
+        for (const QString& title : {QStringLiteral("Title"), QString()}) {
+            SetGround(kDark);
+            QGroupBox box(title);
+            box.resize(200, 100);
+            const QImage drawn = box.grab().toImage();
+            QVERIFY(Contrast(drawn, 60, 0, 3) > 25);  // its left side
+            const QColor side = drawn.pixelColor(0, 60);
+            int top = 0;
+            while (top < 60 && drawn.pixelColor(150, top) != side) ++top;
+            const int above = title.isEmpty() ? 0 : box.fontMetrics().height();
+            QVERIFY2(top >= above && top < above + 12, qPrintable(QString::number(top)));
         }
     }
 
