@@ -20,6 +20,7 @@ struct OutlineRow {
     QStyle::PrimitiveElement part;
     int shade;  // percent
     double radius;
+    bool showsFocus;
 };
 
 struct SignRow {
@@ -29,10 +30,10 @@ struct SignRow {
 
 // clang-format off
 constexpr OutlineRow kOutlines[] = {
-    {QStyle::PE_IndicatorCheckBox, 60, 0},
-    {QStyle::PE_FrameLineEdit,     40, 2},
-    {QStyle::PE_PanelMenu,        30, 0},
-    {QStyle::PE_Frame,             20, 0},
+    {QStyle::PE_IndicatorCheckBox, 60, 0, true},
+    {QStyle::PE_FrameLineEdit,     40, 2, true},
+    {QStyle::PE_PanelMenu,         30, 0, false},
+    {QStyle::PE_Frame,             20, 0, false},
 };
 
 constexpr SignRow kSigns[] = {
@@ -47,14 +48,17 @@ constexpr QStyle::StandardPixmap kFrameButtons[] = {
 };
 // clang-format on
 
-constexpr OutlineRow kGroupBox = {QStyle::PE_FrameGroupBox, 25, 2};
+constexpr int kFocusLight = 150;  // percent
+constexpr OutlineRow kGroupBox = {QStyle::PE_FrameGroupBox, 25, 2, false};
 
 void DrawOutline(const OutlineRow& row, const QStyleOption& option, const QRect& rect, QPainter& painter)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, row.radius > 0);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(ShadeOf(option.palette, row.shade));
+    const bool focused = row.showsFocus && (option.state & QStyle::State_HasFocus) != 0;
+    painter.setPen(focused ? option.palette.color(QPalette::Highlight).lighter(kFocusLight)
+                           : ShadeOf(option.palette, row.shade));
     const QRectF frame = QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.drawRoundedRect(frame, row.radius, row.radius);
     painter.restore();
@@ -104,9 +108,8 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const auto* const row = std::ranges::find(kOutlines, element, &OutlineRow::part);
-    if (row == std::end(kOutlines) || option == nullptr || !IsTooDark(option->palette)) return;
-    // The one that has the keyboard keeps its own colour.
-    if ((option->state & State_HasFocus) == 0) DrawOutline(*row, *option, option->rect, *painter);
+    if (row != std::end(kOutlines) && option != nullptr && IsTooDark(option->palette))
+        DrawOutline(*row, *option, option->rect, *painter);
 }
 
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

@@ -71,6 +71,11 @@ private Q_SLOTS:
             box.resize(box.sizeHint());
             const QImage drawn = box.grab().toImage();
             QVERIFY2(Contrast(drawn, drawn.height() / 2, 0, 20) > 40, qPrintable(ground.name()));
+            box.show();
+            box.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&box));
+            box.setFocus(Qt::MouseFocusReason);
+            QVERIFY2(Contrast(box.grab().toImage(), drawn.height() / 2, 0, 20) > 40, qPrintable(ground.name()));
             QLineEdit line;
             line.setEnabled(false);
             line.resize(line.sizeHint());
