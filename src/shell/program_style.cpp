@@ -43,8 +43,11 @@ constexpr SignRow kSigns[] = {
     {QStyle::SP_MessageBoxWarning,     "dialog-warning",     "sign_warning"},
 };
 
-constexpr QStyle::StandardPixmap kFrameButtons[] = {
-    QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton, QStyle::SP_TitleBarCloseButton,
+constexpr QStyle::StandardPixmap kBlackSigns[] = {
+    QStyle::SP_TitleBarMinButton,
+    QStyle::SP_TitleBarNormalButton,
+    QStyle::SP_TitleBarCloseButton,
+    QStyle::SP_ToolBarHorizontalExtensionButton,
 };
 // clang-format on
 
@@ -145,8 +148,8 @@ QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* opt
     if (sign != std::end(kSigns) && !QIcon::hasThemeIcon(QLatin1String(sign->ofDesktop))) return ToolbarIcon(sign->own);
     const QIcon icon = QProxyStyle::standardIcon(picture, option, widget);
     const QPalette palette = widget != nullptr ? widget->palette() : QGuiApplication::palette();
-    const bool isFrameButton = std::ranges::find(kFrameButtons, picture) != std::end(kFrameButtons);
-    return isFrameButton && IsTooDark(palette) ? InColourOfText(icon, palette) : icon;
+    const bool isBlack = std::ranges::find(kBlackSigns, picture) != std::end(kBlackSigns);
+    return isBlack && IsTooDark(palette) ? InColourOfText(icon, palette) : icon;
 }
 
 }  // namespace folioscope
