@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QPainter>
+#include <QStyleOptionGroupBox>
 #include <QStyleOptionMenuItem>
 #include <QWidget>
 
@@ -14,11 +15,12 @@ namespace folioscope {
 
 namespace {
 
-// Frames that a style of light colours derives from the ground, darker than it.
+// Frames that Qt's own style derives from the ground, darker than it.
 struct OutlineRow {
     QStyle::PrimitiveElement part;
     int shade;  // percent
     double radius;
+    bool showsFocus;
 };
 
 struct SignRow {
@@ -28,10 +30,10 @@ struct SignRow {
 
 // clang-format off
 constexpr OutlineRow kOutlines[] = {
-    {QStyle::PE_IndicatorCheckBox, 60, 0},
-    {QStyle::PE_FrameLineEdit,     40, 2},
-    {QStyle::PE_PanelMenu,        30, 0},
-    {QStyle::PE_Frame,             20, 0},
+    {QStyle::PE_IndicatorCheckBox, 60, 0, true},
+    {QStyle::PE_FrameLineEdit,     40, 2, true},
+    {QStyle::PE_PanelMenu,         30, 0, false},
+    {QStyle::PE_Frame,             20, 0, false},
 };
 
 constexpr SignRow kSigns[] = {
@@ -41,18 +43,26 @@ constexpr SignRow kSigns[] = {
     {QStyle::SP_MessageBoxWarning,     "dialog-warning",     "sign_warning"},
 };
 
-constexpr QStyle::StandardPixmap kFrameButtons[] = {
-    QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton, QStyle::SP_TitleBarCloseButton,
+constexpr QStyle::StandardPixmap kBlackSigns[] = {
+    QStyle::SP_TitleBarMinButton,
+    QStyle::SP_TitleBarNormalButton,
+    QStyle::SP_TitleBarCloseButton,
+    QStyle::SP_ToolBarHorizontalExtensionButton,
 };
 // clang-format on
 
-void DrawOutline(const OutlineRow& row, const QStyleOption& option, QPainter& painter)
+constexpr int kFocusLight = 150;  // percent
+constexpr OutlineRow kGroupBox = {QStyle::PE_FrameGroupBox, 25, 2, false};
+
+void DrawOutline(const OutlineRow& row, const QStyleOption& option, const QRect& rect, QPainter& painter)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, row.radius > 0);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(ShadeOf(option.palette, row.shade));
-    const QRectF frame = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    const bool focused = row.showsFocus && (option.state & QStyle::State_HasFocus) != 0;
+    painter.setPen(focused ? option.palette.color(QPalette::Highlight).lighter(kFocusLight)
+                           : ShadeOf(option.palette, row.shade));
+    const QRectF frame = QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.drawRoundedRect(frame, row.radius, row.radius);
     painter.restore();
 }
@@ -84,6 +94,12 @@ QIcon InColourOfText(const QIcon& icon, const QPalette& palette)
 
 }  // namespace
 
+// The style of Qt that is made for light grounds. Those of a desktop know theirs.
+bool ProgramStyle::IsTooDark(const QPalette& palette) const
+{
+    return IsGroundDark(palette) && baseStyle()->name() == QLatin1String("fusion");
+}
+
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* answer) const
 {
@@ -95,9 +111,22 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const auto* const row = std::ranges::find(kOutlines, element, &OutlineRow::part);
-    if (row == std::end(kOutlines) || option == nullptr || !IsGroundDark(option->palette)) return;
-    // The one that has the keyboard keeps its own colour.
-    if ((option->state & State_HasFocus) == 0) DrawOutline(*row, *option, *painter);
+    if (row != std::end(kOutlines) && option != nullptr && IsTooDark(option->palette))
+        DrawOutline(*row, *option, option->rect, *painter);
+}
+
+void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                      const QWidget* widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const auto* const box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    if (control != CC_GroupBox || box == nullptr || !IsTooDark(box->palette)) return;
+    // The frame begins below its title.
+    constexpr int kAbove = 3;
+    const int title =
+        box->text.isEmpty() ? 0 : std::max(pixelMetric(PM_IndicatorHeight, option), box->fontMetrics.height());
+    const QRect frame = subControlRect(CC_GroupBox, option, SC_GroupBoxFrame, widget);
+    DrawOutline(kGroupBox, *option, frame.adjusted(0, title + kAbove, 0, 0), *painter);
 }
 
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -119,8 +148,8 @@ QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* opt
     if (sign != std::end(kSigns) && !QIcon::hasThemeIcon(QLatin1String(sign->ofDesktop))) return ToolbarIcon(sign->own);
     const QIcon icon = QProxyStyle::standardIcon(picture, option, widget);
     const QPalette palette = widget != nullptr ? widget->palette() : QGuiApplication::palette();
-    const bool isFrameButton = std::ranges::find(kFrameButtons, picture) != std::end(kFrameButtons);
-    return isFrameButton && IsGroundDark(palette) ? InColourOfText(icon, palette) : icon;
+    const bool isBlack = std::ranges::find(kBlackSigns, picture) != std::end(kBlackSigns);
+    return isBlack && IsTooDark(palette) ? InColourOfText(icon, palette) : icon;
 }
 
 }  // namespace folioscope

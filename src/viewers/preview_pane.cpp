@@ -1,6 +1,8 @@
 #include "viewers/preview_pane.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTimer>
@@ -30,6 +32,18 @@ public:
 
 private:
     bool& flag_;
+};
+
+// The dialog offers the current folder for a file.
+class CurrentFolder {
+public:
+    explicit CurrentFolder(const QString& path) : before_(QDir::currentPath()) { QDir::setCurrent(path); }
+    CurrentFolder(const CurrentFolder&) = delete;
+    CurrentFolder& operator=(const CurrentFolder&) = delete;
+    ~CurrentFolder() { QDir::setCurrent(before_); }
+
+private:
+    QString before_;
 };
 
 bool ShowPrintDialog(QPrinter& printer, int maxPage, QWidget* parent)
@@ -99,6 +113,7 @@ void PreviewPane::SetEngine(PreviewEngine* engine, IVEDisplayMachineCallback* ca
 bool PreviewPane::Open(const QString& path, bool autoRotation)
 {
     if (document_) return true;
+    path_ = path;
     try {
         if (engine_ != nullptr) document_ = engine_->OpenDocument(path, autoRotation, *viewListener_);
     } catch (...) {  // told below
@@ -208,7 +223,10 @@ void PreviewPane::Print()
     const int page = std::max(view_->CurrentPage(), 1);
     printer.setPrintRange(QPrinter::PageRange);
     printer.setFromTo(page, page);
-    if (!choosePrinter(printer, maxPage, this)) return;
+    {
+        const CurrentFolder beside(QFileInfo(path_).absolutePath());
+        if (!choosePrinter(printer, maxPage, this)) return;
+    }
     const PrintJob job = {*engine_, *document_, program_, ChosenPages(printer, maxPage)};
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const struct CursorBack {

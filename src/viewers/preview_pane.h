@@ -74,7 +74,7 @@ private:
 
     PreviewEngine* engine_ = nullptr;
     IVEDisplayMachineCallback* callback_ = nullptr;
-    QString program_;
+    QString program_, path_;
     Labels texts_{Language::English};
     VEView* view_;
     QTimer* ViewTimer_;

@@ -1,5 +1,6 @@
 #include "viewers/print_pages.h"
 
+#include <QDir>
 #include <QFile>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -70,6 +71,25 @@ class PrintPagesTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void ProposesTheFolderOfTheDocument()
+    {
+        const QString before = QDir::currentPath();
+        QTemporaryDir folder;
+        test::Script script = WithPages(1);
+        test::ScriptedEngine engine(script);
+        PreviewPane pane(nullptr);
+        pane.SetEngine(&engine, nullptr, QStringLiteral("fsv"));
+        QStringList folders;
+        pane.choosePrinter = [&](QPrinter&, int, QWidget*) {
+            folders += QDir::currentPath();
+            return false;
+        };
+        pane.Open(folder.filePath("a.afp"), false);
+        pane.ViewPrint();
+        QCOMPARE(folders, QStringList(QDir(folder.path()).canonicalPath()));
+        QCOMPARE(QDir::currentPath(), before);
+    }
+
     void ProposesTheCurrentPage()
     {
         Printing printing(WithPages(12));
