@@ -282,9 +282,9 @@ class RealWindow(unittest.TestCase):
         self.assertEqual(settings["LastFilesList1"], self.sample)
         self.assertEqual(settings["Language"], LANGUAGES[language])
 
-    def open_options(self, title="Options"):
+    def in_options(self):
         """The dialog, with the list of the languages in hand."""
-        dialog = self.program.wait_for_window(f"^{title}$")
+        dialog = self.program.wait_for_window("^Options$")
         self.screen.focus(dialog)
         self.screen.keys("Tab")
         return dialog
@@ -292,17 +292,17 @@ class RealWindow(unittest.TestCase):
     def choose_language(self, language, *keys):
         """In the list, from English on: the words of all windows change at once."""
         self.screen.keys("ctrl+comma")
-        dialog = self.open_options()
+        dialog = self.in_options()
         before = self.look("options")
         self.screen.keys(*keys)
         self.wait_for_news(self.menus_of, before)
         self.look("options-" + language)
         self.assertEqual(self.screen.title(dialog), WORDS["Options"][language])
-        return self.menus_of(before)
+        return dialog, self.menus_of(before)
 
-    def end_of_options(self, language, key):
+    def end_of_options(self, dialog, key):
         self.screen.keys(key)
-        self.program.wait_till_gone(f"^{WORDS['Options'][language]}$")
+        wait_for("the end of the options", lambda: dialog not in self.screen.windows(".*"))
         self.program.to_front()
 
     def record(self, steps):
@@ -311,6 +311,16 @@ class RealWindow(unittest.TestCase):
         self.screen.keys("Home", *["Down"] * steps)
         self.at(self.rows[steps])
         return self.wait_for_news(self.bytes_of, before)
+
+    def turn_the_page(self, shown):
+        """In the pages: the tree follows to the end of the next one."""
+        left, top, width, height = self.screen.place(self.program.window)
+        self.screen.click(left + width * 5 // 6, top + height * 2 // 5)
+        self.screen.keys("Next")
+        self.wait_for_news(self.tree_of, shown)
+        ends = [row for row in self.rows if row.text.startswith("EPG")]
+        self.at(ends[1])
+        self.look("next-page")
 
     # -------------------------------------------------------------------------------------------------------- tests
 
@@ -360,7 +370,7 @@ class RealWindow(unittest.TestCase):
 
     def test_first_start(self):
         self.launch("first-start", confirmed=False)
-        dialog = self.open_options()
+        dialog = self.in_options()
         self.assertNotIn(self.sample, self.program.title())
         self.assertNotIn("InitResourcePaths", self.home.settings())
         before = self.look("options")
@@ -383,12 +393,12 @@ class RealWindow(unittest.TestCase):
 
     def test_options(self):
         self.start("options")
-        english = self.choose_language("de", "Down")
-        self.end_of_options("de", "Escape")
+        dialog, english = self.choose_language("de", "Down")
+        self.end_of_options(dialog, "Escape")
         wait_for("the English words", lambda: self.menus_of(self.now()) == english)
         self.assertEqual(self.home.settings()["Language"], 1)
-        self.choose_language("fr", "Down", "Down")
-        self.end_of_options("fr", "Return")
+        dialog, _ = self.choose_language("fr", "Down", "Down")
+        self.end_of_options(dialog, "Return")
         self.assertNotEqual(self.menus_of(self.now()), english)
         self.assertEqual(self.home.settings()["Language"], 3)
         self.words = {text: texts["fr"] for text, texts in WORDS.items()}
@@ -415,16 +425,6 @@ class RealWindow(unittest.TestCase):
         wait_for("the page as before", lambda: self.pages_of(self.now()) == self.pages_of(shown))
         self.turn_the_page(shown)
         self.quit()
-
-    def turn_the_page(self, shown):
-        """In the pages: the tree follows to the end of the next one."""
-        left, top, width, height = self.screen.place(self.program.window)
-        self.screen.click(left + width * 5 // 6, top + height * 2 // 5)
-        self.screen.keys("Next")
-        self.wait_for_news(self.tree_of, shown)
-        ends = [row for row in self.rows if row.text.startswith("EPG")]
-        self.at(ends[1])
-        self.look("next-page")
 
 
 if __name__ == "__main__":
