@@ -60,7 +60,7 @@ public:
     // What the window gets that isn't as large as its area: three quarters of that.
     QSize sizeHint() const override;
 
-    void SetTexts();   // of the language in force
+    void SetTexts();      // of the language in force
     void TakeSettings();  // what was changed in the options holds from now on
 
 Q_SIGNALS:
