@@ -26,6 +26,16 @@ function(folioscope_test name)
   gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 300)
 endfunction()
 
+# folioscope_knows_qt(TARGET)
+# Compiles a target file by file. Qt knows its classes by the address of a description in its library, and a program
+# that is optimised across files takes copies of these, so that its windows don't find their own parts.
+function(folioscope_knows_qt target)
+  set_target_properties(${target} PROPERTIES INTERPROCEDURAL_OPTIMIZATION OFF)
+  if(CMAKE_INTERPROCEDURAL_OPTIMIZATION)
+    target_link_options(${target} PRIVATE -flto=auto)  # of the core's files
+  endif()
+endfunction()
+
 # folioscope_window_library(FOLDER SOURCES ... [RESOURCES ...] [USES FOLDER ...])
 # The same for a folder that knows Qt. Headers with Q_OBJECT stand among the sources.
 function(folioscope_window_library folder)
@@ -33,6 +43,7 @@ function(folioscope_window_library folder)
   folioscope_library(${folder} SOURCES ${ARG_SOURCES} ${ARG_RESOURCES} USES ${ARG_USES})
   set(target folioscope_${folder})
   set_target_properties(${target} PROPERTIES AUTOMOC ON AUTORCC ON)
+  folioscope_knows_qt(${target})
   target_compile_definitions(${target} PUBLIC QT_NO_KEYWORDS)
   target_link_libraries(${target} PUBLIC Qt6::Widgets Qt6::Svg)
 endfunction()

@@ -90,15 +90,23 @@ std::string Quoted(std::string_view text)
     return quoted + "\"";
 }
 
+std::string WithLineBreaks(std::string_view text)
+{
+    constexpr std::string_view kWritten = "\\r\\n";
+    std::string broken;
+    for (std::size_t at; (at = text.find(kWritten)) != std::string_view::npos;
+         text.remove_prefix(at + kWritten.size())) {
+        broken += text.substr(0, at);
+        broken += "\r\n";
+    }
+    return broken += text;
+}
+
 void WriteIndex(std::ostream& out, const std::vector<Row>& rows, const std::string& scope, const char* name)
 {
     std::vector<std::pair<std::string, std::size_t>> keys;
     for (std::size_t i = 0; i < rows.size(); ++i)
-        if (rows[i].scope == scope) {
-            std::string english = rows[i].text[0];
-            for (std::size_t at; (at = english.find("\\r\\n")) != std::string::npos;) english.replace(at, 4, "\r\n");
-            keys.emplace_back(english, i);
-        }
+        if (rows[i].scope == scope) keys.emplace_back(WithLineBreaks(rows[i].text[0]), i);
     std::sort(keys.begin(), keys.end());
     out << "inline constexpr CatalogKey " << name << "[] = {\n";
     for (const auto& [english, row] : keys) out << "    {" << Quoted(rows[row].text[0]) << ", " << row + 1 << "},\n";

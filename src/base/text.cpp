@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <span>
 
 namespace folioscope {
 
@@ -61,6 +62,19 @@ char32_t PictureOf(char32_t character)
     if (character == 0x7F) return 0x2421;
     const bool acts = (character >= 0x80 && character < 0xA0) || character == 0x2028 || character == 0x2029;
     return acts ? kNoCharacter : character;
+}
+
+// How many bytes from the start on are ASCII, looked at eight at a time.
+std::size_t PlainBytes(std::string_view text)
+{
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    std::size_t plain = 0;
+    for (std::uint64_t eight; plain + sizeof eight <= text.size(); plain += sizeof eight) {
+        std::memcpy(&eight, text.data() + plain, sizeof eight);
+        if ((eight & kHighBits) != 0) break;
+    }
+    while (plain < text.size() && static_cast<unsigned char>(text[plain]) < 0x80) ++plain;
+    return plain;
 }
 
 }  // namespace
@@ -125,9 +139,9 @@ std::string_view TrimBlanks(std::string_view text)
 void AppendUpperCase(std::string& out, std::string_view text)
 {
     while (!text.empty()) {
-        std::size_t plain = 0;
-        while (plain < text.size() && static_cast<unsigned char>(text[plain]) < 0x80) ++plain;
-        for (const char c : text.substr(0, plain)) out += c >= 'a' && c <= 'z' ? static_cast<char>(c - 0x20) : c;
+        const std::size_t plain = PlainBytes(text), at = out.size();
+        out += text.substr(0, plain);
+        for (char& c : std::span(out).subspan(at)) c = static_cast<char>(c - (c >= 'a' && c <= 'z' ? 0x20 : 0));
         text.remove_prefix(plain);
         if (text.empty()) return;
         const std::string_view rest = text;

@@ -209,7 +209,8 @@ void CmrWalk::AddPalette(const TagEntry& tag)
     const std::int64_t colorants = palette.counted ? colorants_ : named, size = kColorSize + colorants;
     const bool several = tag.count - 1 > size;
     for (std::int64_t offset = 0; offset < tag.count && !object_.Full(); offset += size) {
-        const auto number = static_cast<double>(offset / size + 1);
+        const std::int64_t entry = offset / size;
+        const auto number = static_cast<double>(entry + 1);
         if (several) object_.Add(Element::Float64(Key::BeginRepetition, number));
         object_.AddRows(kColor, tag.value + offset);
         for (std::int64_t i = 0; i < std::min<std::int64_t>(colorants, named); ++i)

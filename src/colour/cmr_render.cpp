@@ -12,8 +12,6 @@ namespace {
 
 constexpr LineIndex kLineOf = IndexOf(kCmrLines, kIccLines);
 
-Wording LabelOf(const Element& element) { return ColourLineOf(element.key)->label; }
-
 // "1F 08", as the object's bytes are told.
 std::string HexOf(std::uint16_t id)
 {
@@ -26,9 +24,9 @@ std::string HexOf(std::uint16_t id)
 
 constexpr double kHighest16 = 65'535, kHighest8 = 255, kPercent = 100;
 
-void PutReal(Renderer& renderer, const Element& element, double value)
+void PutReal(Renderer& renderer, double value)
 {
-    AppendFormatted(renderer.BeginLine(LabelOf(element)), value, Picture::One, renderer.style);
+    AppendFormatted(renderer.BeginLine(renderer.OwnLabel()), value, Picture::One, renderer.style);
     renderer.EndLine();
 }
 
@@ -65,18 +63,18 @@ void RenderCmrTag(Renderer& renderer, const Element& element)
     const auto id = renderer.TextOf(element);
     const auto* const tag = std::ranges::find_if(kCmrTags, [&](const CmrTag& row) { return HexOf(row.id) == id; });
     if (tag != std::end(kCmrTags))
-        renderer.PutLine(LabelOf(element), tag->name);
+        renderer.PutLine(renderer.OwnLabel(), tag->name);
     else
-        renderer.PutUnknown(LabelOf(element), id);
+        renderer.PutUnknown(renderer.OwnLabel(), id);
 }
 
 void RenderCmrFieldType(Renderer& renderer, const Element& element)
 {
     const auto* const row = std::ranges::find(kCmrFieldTypes, element.number, &CmrFieldType::type);
-    if (row != std::end(kCmrFieldTypes)) return renderer.PutLine(LabelOf(element), row->name);
+    if (row != std::end(kCmrFieldTypes)) return renderer.PutLine(renderer.OwnLabel(), row->name);
     std::string type;
     renderer.AppendValue(type, element);
-    renderer.PutUnknown(LabelOf(element), type);
+    renderer.PutUnknown(renderer.OwnLabel(), type);
 }
 
 // A medium that isn't listed is the maker's own, and no fault.
@@ -86,36 +84,36 @@ void RenderMedium(Renderer& renderer, const Element& element)
                                                                           : std::span<const TextWord>(kMediumFinishes);
     const auto value = renderer.TextOf(element);
     if (const Wording* const word = FindWord(words, value))
-        return renderer.PutLine(LabelOf(element), renderer.Say(*word));
-    PutNamed(renderer, LabelOf(element), renderer.Say(L("custom")), value);
+        return renderer.PutLine(renderer.OwnLabel(), renderer.Say(*word));
+    PutNamed(renderer, renderer.OwnLabel(), renderer.Say(L("custom")), value);
 }
 
 // sic, a flag that is set counts as -1.
 void RenderNumber(Renderer& renderer, const Element& element)
 {
     const std::int64_t sign = element.tag == Tag::Boolean ? -1 : 1;
-    AppendFormatted(renderer.BeginLine(LabelOf(element)), sign * element.number, Picture::Grouped, renderer.style);
+    AppendFormatted(renderer.BeginLine(renderer.OwnLabel()), sign * element.number, Picture::Grouped, renderer.style);
     renderer.EndLine();
 }
 
 void RenderTrueOrFalse(Renderer& renderer, const Element& element)
 {
-    renderer.PutLine(LabelOf(element), renderer.Say(element.number != 0 ? L("true") : L("false")));
+    renderer.PutLine(renderer.OwnLabel(), renderer.Say(element.number != 0 ? L("true") : L("false")));
 }
 
 void RenderLightness(Renderer& renderer, const Element& element)
 {
-    PutReal(renderer, element, static_cast<double>(element.number) / kHighest16 * kPercent);
+    PutReal(renderer, static_cast<double>(element.number) / kHighest16 * kPercent);
 }
 
 void RenderChroma(Renderer& renderer, const Element& element)
 {
-    PutReal(renderer, element, static_cast<double>(element.number) / kHighest16 * kHighest8 - 128);
+    PutReal(renderer, static_cast<double>(element.number) / kHighest16 * kHighest8 - 128);
 }
 
 void RenderColorant(Renderer& renderer, const Element& element)
 {
-    std::string& out = renderer.BeginLine(LabelOf(element));
+    std::string& out = renderer.BeginLine(renderer.OwnLabel());
     renderer.AppendValue(out, element);
     out += " (";
     AppendFormatted(out, static_cast<double>(element.number) / kHighest8 * kPercent, Picture::OneToTwo, renderer.style);

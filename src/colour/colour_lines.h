@@ -21,7 +21,7 @@ const Wording* FindWord(std::span<const TextWord> words, std::string_view value)
 // A value that no word fits: a red line, a message, a red path to the root.
 template <const auto& words> void RenderTextWord(Renderer& renderer, const Element& element)
 {
-    const Wording label = ColourLineOf(element.key)->label;
+    const Wording label = renderer.OwnLabel();
     const auto value = renderer.TextOf(element);
     if (const Wording* const word = FindWord(words, value))
         renderer.PutLine(label, renderer.Say(*word));

@@ -28,7 +28,7 @@ std::string_view MakerOf(std::string_view signature)
 
 void RenderIccTag(Renderer& renderer, const Element& element)
 {
-    const Wording label = ColourLineOf(element.key)->label;
+    const Wording label = renderer.OwnLabel();
     const auto signature = renderer.TextOf(element);
     if (const auto name = NameOf(kIccTags, signature); !name.empty())
         PutNamed(renderer, label, name, signature);
@@ -40,7 +40,7 @@ void RenderIccTag(Renderer& renderer, const Element& element)
 
 void RenderIccType(Renderer& renderer, const Element& element)
 {
-    const Wording label = ColourLineOf(element.key)->label;
+    const Wording label = renderer.OwnLabel();
     const auto type = renderer.TextOf(element);
     if (const auto name = NameOf(kIccTypes, type); !name.empty()) return PutNamed(renderer, label, name, type);
     renderer.RedLine(label, L("Unknown"), type);

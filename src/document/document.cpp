@@ -17,4 +17,13 @@ Document::Document(const Settings& settings, NumberStyle numbers, MessageList& m
 
 Document::~Document() = default;
 
+void Document::TakeSettings(const Settings& settings)
+{
+    settings_.Language = settings.Language;
+    settings_.DefaultMeasurement = settings.DefaultMeasurement;
+    settings_.NormalLineWidth = settings.NormalLineWidth;
+    renderer_->lines.NormalLineWidth = settings_.LineWidth();
+    memo_ = {};  // its texts are in the units that counted before
+}
+
 }  // namespace folioscope

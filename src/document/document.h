@@ -75,11 +75,17 @@ public:
     // Whether records that come again are told from memory, which is the default. It changes nothing but the speed.
     void TellRepeatedFromMemory(bool remember) { remembers_ = remember; }
 
+    // What other settings change in an open document: DefaultMeasurement and NormalLineWidth for the texts that are
+    // made from now on, also in a run, and the language of message boxes and of the dump's head. Texts that are there
+    // stay as they are, and the analysis keeps its language.
+    void TakeSettings(const Settings& settings);
+
     std::int32_t SFCount() const { return lngSFCount_; }
     const StructureTree& Tree() const { return *tree_; }
     MessageList& Messages() { return messages_; }
 
-    // Node details. A record whose body was deferred is read again while the file is open for it.
+    // Node details. A record whose body was deferred is read again while the file is open for it, also in a run, whose
+    // own reading goes on undisturbed.
     FileFailure RedirectOpenAFPFileRandom();
     void RedirectCloseAFPFile();
     FileFailure LookupMissingData(std::uint32_t lngNodeCode);
@@ -88,6 +94,7 @@ public:
     bool GetNodeContents_bolUnread(std::uint32_t lngNodeCode) const;
     // The property text with its markup. Of a deferred record that was read before it is made again if need be.
     std::string GetNodeContents_strContent(std::uint32_t lngNodeCode);
+    void AppendContent(std::string& out, std::uint32_t lngNodeCode);  // the same, behind what is there
 
     // The next node behind `selected` in tree order whose text, a slash and its property text with all markup hold the
     // term. Bodies that were left for later are read on the way. The user can stop the search where one is read.
@@ -116,8 +123,11 @@ private:
     void AppendIntroducerNotes();
     void TellProgress();
     void FinishRun();
+    clsAFPFunctions& BodyReader();
+    void ForgetBodiesOfRun();
     FileFailure ReadBody(std::uint32_t node, std::string& body);
-    void AnalyzeBody(std::uint32_t node);
+    void AnalyzeBody(clsAFPFunctions& afp, std::uint32_t node);
+    void RenderBody(const ElementList& elements, std::uint32_t node, std::string& body);
     FindResult Search(std::uint32_t selected, const FindTerm& term);
     void KeepBody(std::uint32_t node, const std::string& body);
 
@@ -126,6 +136,7 @@ private:
     MessageList& messages_;
     RunHost& host_;
     clsAFPFunctions clsAFP_;
+    std::unique_ptr<clsAFPFunctions> bodyReader_;  // of a run, from the first body on that somebody asks for
     std::unique_ptr<StructureTree> tree_;
     std::unique_ptr<Renderer> renderer_;
     RecordMemo memo_;

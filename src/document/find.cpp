@@ -7,6 +7,10 @@ namespace folioscope {
 
 namespace {
 
+// Bytes of text from one moment for the window to the next, which is some milliseconds.
+constexpr std::size_t kKeepAliveEvery = 512u << 10;
+constexpr std::size_t kNodeCounts = 64;  // a node counts as so many bytes besides its text
+
 // The test is on the text with its tags: a node that is marked red begins with one.
 bool Accepts(const FindTerm& term, std::string_view nodeText)
 {
@@ -36,13 +40,21 @@ FindResult Document::FindNext(std::uint32_t selected, const FindTerm& term)
 
 FindResult Document::Search(std::uint32_t selected, const FindTerm& term)
 {
-    std::string wanted, nodeText, searched;
+    std::string wanted, text, searched;
     AppendUpperCase(wanted, term.strSearch);
+    std::size_t passed = 0;
     FindResult result;
     for (result.node = selected + 1; result.node < tree_->Nodes().Size(); ++result.node) {
         if (bolOperationInterupted_) return result;
+        if (passed >= kKeepAliveEvery) {
+            passed = 0;
+            host_.Progress(result.node);
+            host_.KeepAlive();
+        }
         if (GetNodeContents_lngLength(result.node) >= 1 && GetNodeContents_bolUnread(result.node)) {
-            result.failure = LookupMissingData(result.node);
+            // Whoever reads a node while the search gives way closes the file behind it.
+            if (!clsAFP_.Reader().IsOpen()) result.failure = RedirectOpenAFPFileRandom();
+            if (!result.failure) result.failure = LookupMissingData(result.node);
             if (result.failure) {
                 result.outcome = FindOutcome::ReadFailed;
                 return result;
@@ -50,13 +62,16 @@ FindResult Document::Search(std::uint32_t selected, const FindTerm& term)
             host_.Progress(result.node);
             host_.GiveWay();
         }
-        nodeText.clear();
-        tree_->AppendNodeText(nodeText, result.node);
+        text.clear();
+        tree_->AppendNodeText(text, result.node);
+        passed += text.size() + kNodeCounts;
+        if (!Accepts(term, text)) continue;
+        text += '/';
+        AppendContent(text, result.node);
         searched.clear();
-        AppendUpperCase(searched, nodeText);
-        searched += '/';
-        AppendUpperCase(searched, GetNodeContents_strContent(result.node));
-        if (searched.find(wanted) == std::string::npos || !Accepts(term, nodeText)) continue;
+        AppendUpperCase(searched, text);
+        passed += searched.size();
+        if (searched.find(wanted) == std::string::npos) continue;
         result.outcome = FindOutcome::Found;
         return result;
     }

@@ -12,9 +12,9 @@ namespace {
 constexpr std::size_t kLongest = 1024;                       // bytes of a record
 constexpr std::size_t kSequenceAt = 6, kSequenceLength = 2;  // of the introducer: says nothing of the contents
 
-constexpr std::string_view kRepeating[] = {"TLE", "NOP", "PGD", "PTD-1", "PTD-2", "MCF-2", "MDR", "MPO", "OBD",
-                                           "OBP", "MCD", "MPT", "MPG",   "MGO",   "MIO",   "MBC", "CDD", "MDD",
-                                           "MMT", "MMD", "MCA", "CTC",   "PEC",   "IEL",   "MSU", "PPO", "GDD"};
+constexpr std::string_view kRepeating[] = {
+    "TLE", "NOP", "PGD", "PTD-1", "PTD-2", "MCF-2", "MDR", "MPO", "OBD", "OBP", "MCD", "MPT", "MPG", "MGO", "MIO",
+    "MBC", "CDD", "MDD", "MMT",   "MMD",   "MCA",   "CTC", "PEC", "IEL", "MSU", "PPO", "GDD", "GAD", "IDD", "BDD/BSD"};
 
 }  // namespace
 

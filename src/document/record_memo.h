@@ -22,9 +22,9 @@ struct MemoState {
     bool operator==(const MemoState&) const = default;
 };
 
-// Descriptors, maps and tags come again on every page with the same bytes. What such a record came to is remembered
-// here for a while, so that its equals are not decoded again. The memory is bounded: a new record takes the place of an
-// old one.
+// Descriptors, maps, drawings and tags come again on every page with the same bytes. What such a record came to is
+// remembered here for a while, so that its equals are not decoded again. The memory is bounded: a new record takes the
+// place of an old one.
 //
 // A field may only be told from memory if its text and caption follow from its bytes and from MemoState, and if reading
 // it changes nothing but units and line widths: the list in record_memo.cpp says which ones do.

@@ -251,6 +251,7 @@ void Document::FinishRun()
     }
     clsAFP_.CloseAFPFile();
     bolProcessing_ = false;
+    ForgetBodiesOfRun();
     if (messages_.hasMessages() && settings_.MessageWindow == 1) messages_.ShowWithBeep();
 }
 

@@ -18,6 +18,8 @@ public:
     virtual void Counters(std::int32_t /*lngSFCount*/, std::int32_t /*lngPageCount*/) {}
     // The only moment at which the user can act. May set the document's cancel flag.
     virtual void GiveWay() {}
+    // A moment of an operation at which the window may be painted anew, but the user can't act.
+    virtual void KeepAlive() {}
     virtual void OperationEnds() {}
 
     virtual void RunFinished() {}     // the root can be selected and expanded

@@ -213,6 +213,13 @@ void StructureTree::Revisit(std::uint32_t node, bool heard)
     heard_ = heard;
 }
 
+void StructureTree::GoBackTo(const Turn& turn)
+{
+    nodCurrent_ = turn.node;
+    status_ = turn.status;
+    heard_ = turn.heard;
+}
+
 void StructureTree::SetNodeText(std::string_view shortName)
 {
     const std::size_t field = nodes_[nodCurrent_].field;

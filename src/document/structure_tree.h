@@ -49,6 +49,14 @@ public:
     void CloseFolder(Status status);
     // The records that are rendered now belong to this node; `heard`: their faults are new.
     void Revisit(std::uint32_t node, bool heard);
+    // Whom the next rendering concerns. Building goes on from where it was when this is set back behind a visit.
+    struct Turn {
+        std::uint32_t node = 0;
+        Status status = kNothing;
+        bool heard = true;
+    };
+    Turn CurrentTurn() const { return {nodCurrent_, status_, heard_}; }
+    void GoBackTo(const Turn& turn);
 
     void SetNodeText(std::string_view shortName) override;
     void ShowResName(std::string_view name) override;

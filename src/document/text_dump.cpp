@@ -243,6 +243,7 @@ private:
         if (!result_.output) result_.output = sink_.Write(buffer_.Text());
         result_.bytes += buffer_.Size();
         buffer_.Clear();
+        document_.host_.KeepAlive();
     }
 
     const NodeRecord& record(std::uint32_t node) const { return tree_.Nodes()[node]; }

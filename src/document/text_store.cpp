@@ -6,11 +6,20 @@
 
 namespace folioscope {
 
+namespace {
+
+constexpr std::size_t kSmallestPart = 4;  // slots
+
+}  // namespace
+
 void TextStore::Clear()
 {
     blocks_.clear();
-    table_.assign(1024, kNoText);
-    count_ = bytes_ = 0;
+    for (Part& part : parts_) {
+        part.table.assign(kSmallestPart, kNoText);
+        part.count = 0;
+    }
+    bytes_ = 0;
     used_ = kBlockUnits;
 }
 
@@ -30,13 +39,15 @@ std::string_view TextStore::At(TextPlace place) const
 TextPlace TextStore::Keep(std::string_view text)
 {
     if (text.empty()) return kNoText;
-    if ((count_ + 1) * 4 > table_.size() * 3) Grow();
     const std::uint32_t hash = HashOf(text);
-    std::size_t slot = hash & (table_.size() - 1);
-    for (; table_[slot] != kNoText; slot = (slot + 1) & (table_.size() - 1))
-        if (HeaderAt(table_[slot]).hash == hash && At(table_[slot]) == text) return table_[slot];
-    ++count_;
-    return table_[slot] = Append(text, hash);
+    Part& part = parts_[hash >> (kHashBits - kPartBits)];
+    if ((part.count + 1) * 4 > part.table.size() * 3) Grow(part);
+    std::vector<TextPlace>& table = part.table;
+    std::size_t slot = hash & (table.size() - 1);
+    for (; table[slot] != kNoText; slot = (slot + 1) & (table.size() - 1))
+        if (HeaderAt(table[slot]).hash == hash && At(table[slot]) == text) return table[slot];
+    ++part.count;
+    return table[slot] = Append(text, hash);
 }
 
 TextPlace TextStore::Append(std::string_view text, std::uint32_t hash)
@@ -59,18 +70,24 @@ TextPlace TextStore::Append(std::string_view text, std::uint32_t hash)
     return place;
 }
 
-void TextStore::Grow()
+void TextStore::Grow(Part& part)
 {
-    std::vector<TextPlace> old(table_.size() * 2, kNoText);
-    old.swap(table_);
+    std::vector<TextPlace>& table = part.table;
+    std::vector<TextPlace> old(table.size() * 2, kNoText);
+    old.swap(table);
     for (const TextPlace place : old) {
         if (place == kNoText) continue;
-        std::size_t slot = HeaderAt(place).hash & (table_.size() - 1);
-        while (table_[slot] != kNoText) slot = (slot + 1) & (table_.size() - 1);
-        table_[slot] = place;
+        std::size_t slot = HeaderAt(place).hash & (table.size() - 1);
+        while (table[slot] != kNoText) slot = (slot + 1) & (table.size() - 1);
+        table[slot] = place;
     }
 }
 
-std::size_t TextStore::BytesUsed() const { return bytes_ + table_.size() * sizeof(TextPlace); }
+std::size_t TextStore::BytesUsed() const
+{
+    std::size_t bytes = bytes_;
+    for (const Part& part : parts_) bytes += part.table.size() * sizeof(TextPlace);
+    return bytes;
+}
 
 }  // namespace folioscope

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -31,9 +32,17 @@ private:
         std::uint32_t size, hash;
     };
 
+    // The places of the texts whose hashes begin alike: open addressing, a power of two, at most three quarters full.
+    // A table in many parts grows part by part, so that nobody waits for all of millions of texts.
+    struct Part {
+        std::vector<TextPlace> table;
+        std::size_t count = 0;
+    };
+    static constexpr int kPartBits = 8, kHashBits = 32;
+
     Header HeaderAt(TextPlace place) const;
     TextPlace Append(std::string_view text, std::uint32_t hash);
-    void Grow();
+    void Grow(Part& part);
 
     const char* Bytes(TextPlace place) const
     {
@@ -41,8 +50,7 @@ private:
     }
 
     std::vector<std::unique_ptr<char[]>> blocks_;
-    std::vector<TextPlace> table_;  // open addressing, a power of two, at most three quarters full
-    std::size_t count_ = 0;
+    std::array<Part, 1u << kPartBits> parts_;
     std::size_t used_ = 0;   // units of the last block
     std::size_t bytes_ = 0;  // of all blocks
 };

@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "analysis/decode/colors.h"
 #include "analysis/decode/fields_graphics.h"
 
 namespace folioscope {
@@ -184,12 +183,6 @@ template <std::int32_t at> void DecodeAngles(clsAFPFunctions& afp, const Item& i
     add(Key::SweepAngle, Parameters(item) + at + 4);
 }
 
-void DecodeGSPCOL(clsAFPFunctions& afp, const Item& item)
-{
-    const std::int32_t p = Parameters(item);
-    DecodeColor(afp, {p + 1, p + 6, p + 10, ColorSource::Item}, kToSequence);
-}
-
 constexpr Row mark(Key key) { return read(Read::True, key, 0); }
 
 // clang-format off
@@ -246,7 +239,7 @@ constexpr OrderRow kOrders[] = {
     {0xA3, "GCPARC",  Form::Long, {s(Key::CenterPosX, 0, 2), s(Key::CenterPosY, 2, 2), u(Key::Multiplier, 4, 2)},
                       DecodeAngles<6>},
     {0xA5, "GCCBEZ",  Form::Long, {}, nullptr, &kBezier, 2},
-    {0xB2, "GSPCOL",  Form::Long, {}, DecodeGSPCOL},
+    {0xB2, "GSPCOL",  Form::Long, {}, DecodeItemColor},
     {0xC0, "GBOX",    Form::Long, {s(Key::BoxFirstCornerXaxis, 2, 2), s(Key::BoxFirstCornerYaxis, 4, 2),
                                    s(Key::BoxSecondCornerXaxis, 6, 2), s(Key::BoxSecondCornerYaxis, 8, 2)},
                       DecodeRoundedCorners<10>},

@@ -117,12 +117,6 @@ void DecodeTileColor(clsAFPFunctions& afp, const Item& item)
     DecodeColor(afp, {p, p + 4, p + 8, ColorSource::Tile}, kToSequence);
 }
 
-void DecodeImageColor(clsAFPFunctions& afp, const Item& item)
-{
-    const std::int32_t p = Parameters(item);
-    DecodeColor(afp, {p + 1, p + 6, p + 10, ColorSource::Item}, kToSequence);
-}
-
 void DecodeImageData(clsAFPFunctions& afp, const Item& item)
 {
     afp.AddSequenceElement(Element::Int32(Key::ImageData, item.length));
@@ -183,7 +177,7 @@ constexpr FieldRowOfImage kShort[] = {
     {0xB5, "Tile Position",           {u(Key::OffsetX, 0, 4), u(Key::OffsetY, 4, 4)}},
     {0xB6, "Tile Size",               {u(Key::CellSizeX, 0, 4), u(Key::CellSizeY, 4, 4)}, DecodeTileSize},
     {0xB7, "Tile Set Color",          {}, DecodeTileColor},
-    {0xF4, "Set Extended Bilevel Image Color", {}, DecodeImageColor},
+    {0xF4, "Set Extended Bilevel Image Color", {}, DecodeItemColor},
     {0xF6, "Set Bilevel Image Color", {u(Key::ForegroundColor, 2, 2)}},
     {0xF7, "IOCA Function Set Identification", {b(Key::FunctionSet, 1)}},
 };

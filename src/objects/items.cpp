@@ -1,5 +1,6 @@
 #include "objects/items.h"
 
+#include "analysis/decode/colors.h"
 #include "base/numbers.h"
 
 namespace folioscope {
@@ -22,6 +23,12 @@ void CarryOver(clsAFPFunctions& afp, std::int32_t end)
     constexpr std::int32_t kLow = 0xFFFF;
     afp.AddElement(Element::Boolean(Key::ContInNextSF, true));
     afp.CarryOverBytes = (afp.FieldPosition - end - 1) & kLow;
+}
+
+void DecodeItemColor(clsAFPFunctions& afp, const Item& item)
+{
+    const std::int32_t p = item.at + 2;
+    DecodeColor(afp, {p + 1, p + 6, p + 10, ColorSource::Item}, kToSequence);
 }
 
 void AddCode(clsAFPFunctions& afp, Key key, std::uint8_t code)

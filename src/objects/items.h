@@ -64,6 +64,9 @@ void EndItems(clsAFPFunctions& afp, Key types, Key values);
 bool RunsOver(const clsAFPFunctions& afp, std::int32_t end);
 void CarryOver(clsAFPFunctions& afp, std::int32_t end);
 
+// A colour with its space: all that follows a head of two bytes.
+void DecodeItemColor(clsAFPFunctions& afp, const Item& item);
+
 // "0F", for a code that no table knows.
 void AddCode(clsAFPFunctions& afp, Key key, std::uint8_t code);
 

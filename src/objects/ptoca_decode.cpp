@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "analysis/decode/colors.h"
 #include "base/numbers.h"
 #include "base/text.h"
 
@@ -77,12 +76,6 @@ void DecodeTBM(clsAFPFunctions& afp, const Item& item)
     const std::int32_t increment =
         item.length == kShortest ? kDefaultIncrement : afp.ReadUnsigned(Parameters(item) + 2, 2);
     afp.AddSequenceElement(Element::Int32(Key::TBMIncrement, increment));
-}
-
-void DecodeSEC(clsAFPFunctions& afp, const Item& item)
-{
-    const std::int32_t p = Parameters(item);
-    DecodeColor(afp, {p + 1, p + 6, p + 10, ColorSource::Item}, kToSequence);
 }
 
 // Glyphs: how many, as the length has it, which can be a half too much; then as many as that rounds to.
@@ -161,7 +154,7 @@ constexpr SequenceRow kSequences[] = {
     {0x74, "STC",  {}, DecodeSTC},
     {0x76, "USC",  {}, DecodeUSC},
     {0x78, "TBM",  {b(Key::TBMDirection, 0)}, DecodeTBM},
-    {0x80, "SEC",  {}, DecodeSEC},
+    {0x80, "SEC",  {}, DecodeItemColor},
     {0x8A, "GIR",  {}, DecodeGIR},
     {0x8C, "GAR",  {}, DecodeDistances<Key::GLAdCount, Key::GLAdvance>},
     {0x8E, "GOR",  {}, DecodeDistances<Key::GLOfCount, Key::GLOffset>},

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
+#include "shell/shade.h"
+
 namespace folioscope {
 
 Divider::Divider(Qt::Orientation direction, QWidget* parent) : QFrame(parent), direction_(direction)
@@ -35,14 +37,15 @@ void Divider::keyPressEvent(QKeyEvent* event)
 // Three dots in the middle, so that it shows where to take hold.
 void Divider::paintEvent(QPaintEvent*)
 {
-    constexpr int kDots = 3, kDot = 2, kGap = 4;
+    constexpr int kDots = 3, kDot = 3, kGap = 3, kShade = 50;
     QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), palette().color(hasFocus() ? QPalette::Highlight : QPalette::Window));
     painter.setPen(Qt::NoPen);
-    painter.setBrush(palette().color(hasFocus() ? QPalette::HighlightedText : QPalette::Mid));
-    const QPoint step = direction_ == Qt::Horizontal ? QPoint(0, kDot + kGap) : QPoint(kDot + kGap, 0);
-    QPoint at = rect().center() - step;
-    for (int i = 0; i < kDots; ++i, at += step) painter.drawEllipse(at, kDot / 2, kDot / 2);
+    painter.setBrush(hasFocus() ? palette().color(QPalette::HighlightedText) : ShadeOf(palette(), kShade));
+    const QPointF step = direction_ == Qt::Horizontal ? QPointF(0, kDot + kGap) : QPointF(kDot + kGap, 0);
+    QPointF at = QRectF(rect()).center() - step;
+    for (int i = 0; i < kDots; ++i, at += step) painter.drawEllipse(at, kDot / 2.0, kDot / 2.0);
 }
 
 }  // namespace folioscope

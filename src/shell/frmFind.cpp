@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 #include "base/text.h"
-#include "shell/access_keys.h"
+#include "viewers/access_keys.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {

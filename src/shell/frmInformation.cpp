@@ -6,7 +6,7 @@
 #include <QPushButton>
 
 #include "base/version.h"
-#include "shell/access_keys.h"
+#include "viewers/access_keys.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -17,9 +18,7 @@
 
 #include "base/settings_store.h"
 #include "base/text.h"
-#include "shell/access_keys.h"
 #include "shell/dropped_files.h"
-#include "shell/frmFind.h"
 #include "shell/frmInformation.h"
 #include "shell/frmMessages.h"
 #include "shell/frmParserWindow.h"
@@ -27,12 +26,18 @@
 #include "shell/icons.h"
 #include "shell/main_commands.h"
 #include "shell/website.h"
+#include "viewers/access_keys.h"
+#include "viewers/frmOptions.h"
+#include "viewers/page_frame_engine.h"
+#include "viewers/preview_pane.h"
 #include "viewers/qt_text.h"
+#include "viewers/question.h"
 
 namespace folioscope {
 
 namespace {
 
+constexpr char kProgram[] = "Folioscope";
 constexpr int kTwips = 15;  // a pixel
 
 struct MenuRow {
@@ -55,10 +60,13 @@ constexpr MenuRow kMenus[] = {
 frmMainWindow::frmMainWindow(ShellState& state, QWidget* parent)
     : QMainWindow(parent), state_(state), area_(new QMdiArea(this)), tlbMenu_(new QToolBar(this)),
       listener_(new QObject(this)),
-      messages_(std::make_unique<frmMessages>(state.messages, state.settings, state.InterfaceTexts()))
+      messages_(std::make_unique<frmMessages>(state.messages, state.settings, state.InterfaceTexts())),
+      options_(std::make_unique<frmOptions>(state.store, state.settings, QCoreApplication::applicationDirPath(), this)),
+      engine_(std::make_unique<PageFrameEngine>(
+          EngineSetup{this, kProgram, QDir::tempPath(), [this] { return state_.InterfaceTexts(); }}))
 {
     setObjectName("frmMainWindow");
-    setWindowTitle("Folioscope");
+    setWindowTitle(kProgram);
     setAcceptDrops(true);
     setCentralWidget(area_);
     area_->setObjectName("mdiArea");
@@ -68,6 +76,7 @@ frmMainWindow::frmMainWindow(ShellState& state, QWidget* parent)
     addToolBar(tlbMenu_);
     connect(area_, &QMdiArea::subWindowActivated, listener_, [this] { UpdateCommands(); });
     connect(messages_.get(), &frmMessages::MessagesArrived, this, &frmMainWindow::UpdateCommands);
+    connect(options_.get(), &frmOptions::LanguageChosen, this, &frmMainWindow::TryLanguage);
     MakeCommands();
     SetTexts();
     SetIcons();
@@ -91,15 +100,15 @@ void frmMainWindow::MakeCommands()
     }
     for (const MainCommand& row : MainCommands()) {
         QMenu* const menu = row.menu == Menu::None ? nullptr : menus_[static_cast<std::size_t>(row.menu) - 1];
-        const bool separator = row.item == nullptr && row.button == nullptr;
+        const bool separator = row.text == Label::None;
         auto* const action = new QAction(this);
         action->setSeparator(separator);
-        action->setObjectName(row.item != nullptr ? row.item : row.button);
+        action->setObjectName(row.item != nullptr ? row.item : row.button);  // none for most separators
         if (row.key != 0) action->setShortcut(QKeySequence(row.key));
         if (row.action != nullptr) connect(action, &QAction::triggered, this, [this, row] { (this->*row.action)(); });
         if (menu != nullptr) menu->addAction(action);
         if (row.button != nullptr || (separator && menu == nullptr)) tlbMenu_->addAction(action);
-        if (row.button != nullptr) tlbMenu_->widgetForAction(action)->setObjectName(row.button);
+        if (row.button != nullptr && !separator) tlbMenu_->widgetForAction(action)->setObjectName(row.button);
         commands_.push_back(action);
     }
     MakeRecentFiles(*menus_.front());
@@ -124,15 +133,26 @@ void frmMainWindow::MakeRecentFiles(QMenu& menu)
 void frmMainWindow::SetTexts()
 {
     const Labels texts = state_.InterfaceTexts();
+    words_.Take(texts.InForce());
     for (std::size_t i = 0; i < std::size(kMenus); ++i) menus_[i]->setTitle(ToQt(texts, kMenus[i].text));
     const auto rows = MainCommands();
     for (std::size_t i = 0; i < rows.size(); ++i) {
         commands_[i]->setText(ToQt(texts, rows[i].text));
-        commands_[i]->setToolTip(ToQt(texts, rows[i].text));
+        commands_[i]->setToolTip(ToQt(texts, rows[i].text));  // sic, with the mark of the access key
     }
     for (QMenu* const menu : menus_) GiveAccessKeys(*menu);
     tlbMenu_->setWindowTitle(ToQt(texts, U("Toolbar")));
     messages_->SetTexts(texts);
+    options_->SetTexts(texts);
+    for (QMdiSubWindow* const window : area_->subWindowList())
+        if (auto* const document = qobject_cast<frmParserWindow*>(window->widget())) document->SetTexts();
+}
+
+// A language is tried out in the whole program while the options are open.
+void frmMainWindow::TryLanguage(Language language)
+{
+    state_.triedLanguage = language;
+    SetTexts();
 }
 
 void frmMainWindow::SetIcons()
@@ -146,6 +166,7 @@ void frmMainWindow::UpdateCommands()
 {
     const frmParserWindow* const document = ActiveDocument();
     const bool busy = document != nullptr && document->IsBusy();
+    const bool pagesShown = document != nullptr && document->PreviewShown();
     const auto enabled = [&](When when) {
         switch (when) {
         case When::Always: return true;
@@ -153,12 +174,16 @@ void frmMainWindow::UpdateCommands()
         case When::Idle: return document != nullptr && !busy;
         case When::Busy: return busy;
         case When::HasMessages: return document != nullptr && state_.messages.Size() > 0;
-        case When::Later: return false;
+        case When::HasPages: return document != nullptr && document->HasPreview();
+        case When::PagesShown: return pagesShown;
         }
         return false;
     };
     const auto rows = MainCommands();
-    for (std::size_t i = 0; i < rows.size(); ++i) commands_[i]->setEnabled(enabled(rows[i].when));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        commands_[i]->setEnabled(enabled(rows[i].when));
+        if (rows[i].when == When::PagesShown) commands_[i]->setVisible(pagesShown);
+    }
 }
 
 void frmMainWindow::ShowRecentFiles()
@@ -195,17 +220,21 @@ void frmMainWindow::StartProcess(const QString& path)
     if (!state_.strReloadNode.empty()) arguments << "/reload=" + ToQt(state_.strReloadNode);
     arguments << path;
     if (starter_ ? !starter_(arguments) : !QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments))
-        QMessageBox::critical(this, "Stop", QCoreApplication::applicationFilePath());
+        TellOf(U("The file could not be opened in a second window:\r\n%1\r\nThe program could not be started again. "
+                 "Please close this document first, then open the file."),
+               path);
 }
 
 void frmMainWindow::OpenHere(const QString& path)
 {
     auto* const document = new frmParserWindow(state_);
+    document->Pages().SetEngine(engine_.get(), this, kProgram);
     QMdiSubWindow* const window = area_->addSubWindow(document);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setWindowTitle(path);
     connect(document, &frmParserWindow::StateChanged, listener_, [this] { UpdateCommands(); });
-    connect(document, &frmParserWindow::FilesDropped, this, &frmMainWindow::OpenFiles);
+    connect(document, &frmParserWindow::FilesDropped, this, &frmMainWindow::OpenFiles, Qt::QueuedConnection);
+    connect(document, &frmParserWindow::LinkNotOpened, this, &frmMainWindow::TellOfNoBrowser);
     connect(window, &QObject::destroyed, listener_, [this] {
         state_.messages.Clear();
         UpdateCommands();
@@ -231,7 +260,9 @@ void frmMainWindow::OpenFiles(const QStringList& paths)
 void frmMainWindow::mnuFileOpen()
 {
     const Labels texts = state_.InterfaceTexts();
-    const QString path = QFileDialog::getOpenFileName(this, ToQt(texts, U("Select AFP File ...")), QString(),
+    const std::string& last = state_.recentFiles[0];
+    const QString folder = last.empty() ? QDir::homePath() : QFileInfo(ToQt(last)).path();
+    const QString path = QFileDialog::getOpenFileName(this, ToQt(texts, U("Select AFP File ...")), folder,
                                                       ToQt(texts, U("All Files (*.*)|*.*")).section('|', 0, 0));
     if (!path.isEmpty()) ProcessFile(path);
 }
@@ -262,7 +293,7 @@ bool frmMainWindow::MayReplace(const QString& name)
     const Labels texts = state_.InterfaceTexts();
     QString text = ToQt(texts, U("%1 already exists! \r\nDo you want to replace it?"));
     text.replace("%1", name);
-    return QMessageBox::question(this, ToQt(texts, U("Question")), text) == QMessageBox::Yes;
+    return AskUser(this, texts, text);
 }
 
 void frmMainWindow::mnuFileSaveDumpAs()
@@ -279,38 +310,25 @@ void frmMainWindow::mnuFileSaveDumpAs()
 
 void frmMainWindow::mnuFileExit() { close(); }
 
-// ---------------------------------------------------------------------------------------------------------- searching
-
-void frmMainWindow::mnuEditFind()
-{
-    frmFind dialog(state_.InterfaceTexts(), state_.find, this);
-    dialog.exec();
-    state_.find = dialog.Term();
-    if (!state_.find.strSearch.empty()) mnuEditFindNext();
-}
-
-void frmMainWindow::mnuEditFindNext()
-{
-    if (state_.find.strSearch.empty()) return mnuEditFind();
-    if (frmParserWindow* const document = ActiveDocument()) document->FindNext();
-}
-
-void frmMainWindow::mnuEditTreeExpand()
-{
-    if (frmParserWindow* const document = ActiveDocument()) document->ExpandAll();
-}
-
-void frmMainWindow::mnuEditTreeCollapse()
-{
-    if (frmParserWindow* const document = ActiveDocument()) document->FullCollapse();
-}
-
-void frmMainWindow::tlbCancel()
-{
-    if (frmParserWindow* const document = ActiveDocument()) document->cmdCancel_Click();
-}
-
 // ------------------------------------------------------------------------------------------------------------ windows
+
+// In the options a language is tried out; what holds afterwards is what was confirmed.
+void frmMainWindow::mnuExtrasOptions()
+{
+    options_->exec();
+    state_.triedLanguage.reset();
+    SetTexts();
+    if (frmParserWindow* const document = ActiveDocument()) document->TakeSettings();
+}
+
+void frmMainWindow::AskAtFirstStart()
+{
+    if (!IsFirstStart(state_.store)) return;
+    state_.store.CreateRegistryKey(kSettingsKey);
+    options_->SetCancelEnabled(false);
+    mnuExtrasOptions();
+    options_->SetCancelEnabled(true);
+}
 
 void frmMainWindow::mnuWindowsMessages() { messages_->ShowOnRequest(); }
 
@@ -343,9 +361,21 @@ void frmMainWindow::mnuHelpWebsite()
 {
     const Labels texts = state_.InterfaceTexts();
     const QString address = ToQt(texts, U("http://www.marrowgate.example/"));
-    if (OpenWebsite(state_.store, address)) return;
-    QString text = ToQt(texts, U("No internet browser has been found for showing the following URL:\r\n%1"));
-    QMessageBox::critical(this, "Stop", text.replace("%1", address));
+    if (!OpenWebsite(state_.store, address)) TellOfNoBrowser(address);
+}
+
+void frmMainWindow::TellOfNoBrowser(const QString& address)
+{
+    TellOf(U("No internet browser has been found for showing the following URL:\r\n%1"), address);
+}
+
+// What went wrong, with what.
+void frmMainWindow::TellOf(Label problem, const QString& what)
+{
+    QString text = ToQt(state_.InterfaceTexts(), problem);
+    QMessageBox box(QMessageBox::Critical, "Stop", text.replace("%1", what), QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
 }
 
 void frmMainWindow::mnuHelpAbout() { frmInformation(state_.InterfaceTexts(), this).exec(); }

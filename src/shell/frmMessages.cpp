@@ -16,14 +16,14 @@
 #include <utility>
 #include <vector>
 
-#include "shell/access_keys.h"
+#include "viewers/access_keys.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {
 
 namespace {
 
-constexpr int kWidth = 720, kHeight = 260;
+constexpr int kWidth = 840, kHeight = 260;
 constexpr int kMargin = 8;                 // around the text of a cell, both sides together
 constexpr int kMillisecondsTogether = 50;  // that new lines wait for others
 

@@ -8,12 +8,17 @@
 #include <QProgressBar>
 #include <QPushButton>
 
+#include <cstdio>
+
 #include "base/text.h"
 #include "shell/divider.h"
 #include "shell/fly_tree.h"
 #include "shell/icons.h"
 #include "shell/property_pane.h"
+#include "viewers/hex_pane.h"
+#include "viewers/preview_pane.h"
 #include "viewers/qt_text.h"
+#include "viewers/ve_view.h"
 
 namespace folioscope {
 
@@ -31,22 +36,30 @@ template <class Control> Control* Named(Control* control, const char* name)
 }  // namespace
 
 frmParserWindow::frmParserWindow(ShellState& state, QWidget* parent)
-    : QWidget(parent), state_(state), flyTreeStructure_(Named(new FlyTree(this), "flyTreeStructure")),
+    : QWidget(parent), state_(state), analysisTexts_(state.settings.AnalysisLanguage()),
+      flyTreeStructure_(Named(new FlyTree(this), "flyTreeStructure")),
       txtProperties_(Named(new PropertyPane(state.InterfaceTexts(), this), "txtProperties")),
       imgDivider_(Named(new Divider(Qt::Horizontal, this), "imgDivider")),
       imgDivider2_(Named(new Divider(Qt::Horizontal, this), "imgDivider2")),
       imgDivider3_(Named(new Divider(Qt::Vertical, this), "imgDivider3")),
-      picViewFrame_(Named(new QFrame(this), "picViewFrame")), picHex_(Named(new QFrame(this), "picHex")),
+      picViewFrame_(Named(new PreviewPane(this), "picViewFrame")),
+      picHex_(Named(new HexPane(state.settings.Codepage, state.InterfaceTexts(), this), "picHex")),
       picStatusBar_(MakeStatusBar())
 {
     setMinimumWidth(kSmallest);
-    for (QWidget* const hidden : {static_cast<QWidget*>(picViewFrame_), static_cast<QWidget*>(picHex_),
-                                  static_cast<QWidget*>(imgDivider2_), static_cast<QWidget*>(imgDivider3_)})
-        hidden->hide();
+    picViewFrame_->hide();
+    imgDivider2_->hide();
+    picHex_->setVisible(state.settings.HexViewer == 1);
+    imgDivider3_->setVisible(state.settings.HexViewer == 1);
     flyTreeStructure_->SetIcons(TreeIcon);
     flyTreeStructure_->SetItemSeparator("^");
     connect(flyTreeStructure_, &FlyTree::OnSelChange, this, &frmParserWindow::flyTreeStructure_OnSelChange);
     connect(txtProperties_, &PropertyPane::FilesDropped, this, &frmParserWindow::FilesDropped);
+    connect(txtProperties_, &PropertyPane::LinkNotOpened, this, &frmParserWindow::LinkNotOpened);
+    connect(picViewFrame_, &PreviewPane::PageEndWanted, this, &frmParserWindow::SelectPageEnd);
+    connect(picViewFrame_, &PreviewPane::Failed, this, &frmParserWindow::TellOfViewer);
+    picViewFrame_->pageEnds = [this] { return document_ ? &document_->Tree().PageEnds() : nullptr; };
+    picViewFrame_->isSearchTermEmpty = [this] { return state_.find.strSearch.empty(); };
     connect(cmdCancel_, &QPushButton::clicked, this, &frmParserWindow::cmdCancel_Click);
     connect(imgDivider_, &Divider::Dragged, this, &frmParserWindow::DragTreeDivider);
     connect(imgDivider2_, &Divider::Dragged, this, &frmParserWindow::DragPreviewDivider);
@@ -73,6 +86,10 @@ QWidget* frmParserWindow::MakeStatusBar()
     row->addWidget(lblSFCount_);
     pgbProgress_->setTextVisible(false);
     pgbProgress_->hide();
+    // The bar keeps its height when an operation begins or ends.
+    QSizePolicy kept = cmdCancel_->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    cmdCancel_->setSizePolicy(kept);
     cmdCancel_->hide();
     return bar;
 }
@@ -81,6 +98,8 @@ void frmParserWindow::SetTexts()
 {
     const Labels texts = state_.InterfaceTexts();
     txtProperties_->SetTexts(texts);
+    picHex_->SetTexts(texts);
+    picViewFrame_->SetTexts(texts);
     flyTreeStructure_->SetLabels(texts);
     cmdCancel_->setText(ToQt(texts, U("Cancel")));
     flyTreeStructure_->setAccessibleName(ToQt(texts, U("Structure")));
@@ -95,6 +114,8 @@ void frmParserWindow::SetTexts()
 bool frmParserWindow::ProcessAFPFile(const QString& path)
 {
     path_ = path;
+    analysisTexts_ = AnalysingTexts(state_.settings.AnalysisLanguage());
+    picHex_->SetFile(path);
     document_ =
         std::make_unique<Document>(state_.settings, state_.numbers, state_.messages, static_cast<RunHost&>(*this));
     flyTreeStructure_->SetTree(&document_->Tree());
@@ -141,15 +162,29 @@ void frmParserWindow::Counters(std::int32_t lngSFCount, std::int32_t lngPageCoun
 }
 
 // What the operation has done so far is shown now and then: showing it each time would cost more than the operation.
+void frmParserWindow::ShowProgress()
+{
+    if (!shown_.hasExpired(kShowEvery)) return;
+    pgbProgress_->setValue(static_cast<int>(progress_ >> progressShift_));
+    ShowCounters();
+    flyTreeStructure_->Refresh();
+    if (!rootOpened_ && document_->Tree().Nodes().Size() > 1) {
+        rootOpened_ = true;  // once: the user may have closed it
+        flyTreeStructure_->Expand(NodeStore::kRoot);
+    }
+    shown_.start();
+}
+
 void frmParserWindow::GiveWay()
 {
-    if (shown_.hasExpired(kShowEvery)) {
-        pgbProgress_->setValue(static_cast<int>(progress_ >> progressShift_));
-        ShowCounters();
-        flyTreeStructure_->Refresh();
-        shown_.start();
-    }
+    ShowProgress();
     QCoreApplication::processEvents();
+}
+
+void frmParserWindow::KeepAlive()
+{
+    ShowProgress();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void frmParserWindow::OperationEnds()
@@ -165,6 +200,7 @@ void frmParserWindow::OperationEnds()
 
 void frmParserWindow::RunFinished()
 {
+    rootOpened_ = true;
     ShowCounters();
     flyTreeStructure_->Refresh();
     flyTreeStructure_->Expand(NodeStore::kRoot);
@@ -176,10 +212,40 @@ void frmParserWindow::PreviewOffered()
 {
     previewOffered_ = true;
     Q_EMIT StateChanged();
+    if (state_.settings.UsePreviewWindow == 1 && !previewShown_) ShowPreview();
 }
 
+void frmParserWindow::TakeSettings()
+{
+    if (document_) document_->TakeSettings(state_.settings);
+}
+
+void frmParserWindow::ShowPreview()
+{
+    previewShown_ = !previewShown_;
+    picViewFrame_->setVisible(previewShown_);
+    imgDivider2_->setVisible(previewShown_);
+    PlacePanes();
+    if (previewShown_ && picViewFrame_->Open(path_, state_.settings.UseAutoRotation == 1) && document_)
+        picViewFrame_->TurnToPageOf(flyTreeStructure_->Selected(), document_->Tree().PageEnds());
+    Q_EMIT StateChanged();
+}
+
+void frmParserWindow::TellOfViewer()
+{
+    state_.messages.addMessage(MessageSource::General, MessageSeverity::Information,
+                               state_.InterfaceTexts()[kViewerProblem], false);
+}
+
+// A dump that the command line has asked for is written without a user: what went well needs no answer, and what didn't
+// is told on the terminal too.
 void frmParserWindow::MessageBox(BoxIcon icon, std::string_view title, std::string_view text)
 {
+    if (state_.bolExtract) {
+        if (icon == BoxIcon::Information) return;
+        state_.extractFailed = true;
+        std::fprintf(stderr, "fsv: %.*s\n", static_cast<int>(text.size()), text.data());
+    }
     QMessageBox box(icon == BoxIcon::Stop ? QMessageBox::Critical : QMessageBox::Information, ToQt(title), ToQt(text),
                     QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
@@ -188,11 +254,10 @@ void frmParserWindow::MessageBox(BoxIcon icon, std::string_view title, std::stri
 
 void frmParserWindow::ShowCounters()
 {
-    const Labels analysis(state_.settings.AnalysisLanguage());
     std::string records, pages;
     AppendFormatted(records, std::int64_t{lngSFCount_}, Picture::Grouped, state_.numbers);
     AppendFormatted(pages, std::int64_t{lngPageCount_}, Picture::Grouped, state_.numbers);
-    const std::string_view page = analysis[L("Page")];
+    const std::string_view page = analysisTexts_[L("Page")];
     pages += ' ';
     pages += page.substr(0, Utf8Step(page.front()));
     lblSFCount_->setText(ToQt(records + " SF"));
@@ -209,9 +274,11 @@ void frmParserWindow::SelectNode(std::uint32_t node)
 
 void frmParserWindow::flyTreeStructure_OnSelChange(std::uint32_t node)
 {
-    if (!document_ || node == 0) return txtProperties_->ShowPropertyText("");
-    // The reader is on its way through the file in a run: bodies come when it has arrived.
-    if (document_->GetNodeContents_bolUnread(node) && !IsBusy()) {
+    if (!document_ || node == 0) {
+        picHex_->ShowRecord(0, 0);
+        return txtProperties_->ShowPropertyText("");
+    }
+    if (document_->GetNodeContents_bolUnread(node)) {
         auto failure = document_->RedirectOpenAFPFileRandom();
         if (!failure) failure = document_->LookupMissingData(node);
         document_->RedirectCloseAFPFile();
@@ -224,7 +291,12 @@ void frmParserWindow::flyTreeStructure_OnSelChange(std::uint32_t node)
 void frmParserWindow::ShowNode(std::uint32_t node)
 {
     txtProperties_->ShowPropertyText(document_->GetNodeContents_strContent(node));
+    picHex_->ShowRecord(document_->GetNodeContents_lngStart(node), document_->GetNodeContents_lngLength(node));
+    if (previewShown_) picViewFrame_->TurnToPageOf(node, document_->Tree().PageEnds());
 }
+
+// The pages lead to the record that ends the one that is shown.
+void frmParserWindow::SelectPageEnd(std::uint32_t node) { SelectNode(node); }
 
 void frmParserWindow::TellFailure(const FileFailure& failure)
 {
@@ -280,7 +352,16 @@ void frmParserWindow::SelectPath(const std::string& path)
 void frmParserWindow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    picHex_->SetWindowWidth(width());
     if (!isMinimized()) PlacePanes();
+}
+
+QSize frmParserWindow::sizeHint() const
+{
+    constexpr QSize kLeast(kSmallest, 400);
+    const QWidget* const frame = parentWidget();
+    const QWidget* const area = frame != nullptr ? frame->parentWidget() : nullptr;
+    return area != nullptr ? (area->size() * 3 / 4).expandedTo(kLeast) : kLeast;
 }
 
 void frmParserWindow::PlacePanes()
@@ -290,7 +371,8 @@ void frmParserWindow::PlacePanes()
     int bottom = height() - status;
     picStatusBar_->setGeometry(0, bottom, inner, status);
     if (!picHex_->isHidden()) {
-        const int hex = static_cast<int>(panes.HexWindowHeight * static_cast<float>(height()) / 100);
+        const int wanted = static_cast<int>(panes.HexWindowHeight * static_cast<float>(height()) / 100);
+        const int hex = std::max(wanted, picHex_->minimumHeight());
         picHex_->setGeometry(0, bottom - hex, inner, hex);
         bottom -= hex + Divider::kThickness;
         imgDivider3_->setGeometry(0, bottom, inner, Divider::kThickness);

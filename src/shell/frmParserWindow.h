@@ -18,10 +18,12 @@ namespace folioscope {
 
 class Divider;
 class FlyTree;
+class HexPane;
+class PreviewPane;
 class PropertyPane;
 
-// One AFP file: its tree, its texts, and the places of the hex pane and of the preview. It forwards to a Document,
-// which has all there is to know of the file.
+// One AFP file: its tree, its texts, its bytes and its pages. It forwards to a Document, which has all there is to know
+// of the file.
 class frmParserWindow final : public QWidget, private RunHost {
     Q_OBJECT
 
@@ -50,11 +52,21 @@ public:
     void SelectPath(const std::string& path);
 
     bool HasPreview() const { return previewOffered_; }
-    void SetTexts();  // of the language in force
+    bool PreviewShown() const { return previewShown_; }
+    // Shows the pages if they are hidden, and the other way round.
+    void ShowPreview();
+    PreviewPane& Pages() { return *picViewFrame_; }
+
+    // What the window gets that isn't as large as its area: three quarters of that.
+    QSize sizeHint() const override;
+
+    void SetTexts();      // of the language in force
+    void TakeSettings();  // what was changed in the options holds from now on
 
 Q_SIGNALS:
     void StateChanged();  // what can be done with the window has changed
     void FilesDropped(const QStringList& paths);
+    void LinkNotOpened(const QString& address);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -66,6 +78,7 @@ private:
     void Progress(std::int64_t lngValue) override;
     void Counters(std::int32_t lngSFCount, std::int32_t lngPageCount) override;
     void GiveWay() override;
+    void KeepAlive() override;
     void OperationEnds() override;
     void RunFinished() override;
     void PreviewOffered() override;
@@ -75,27 +88,33 @@ private:
     void flyTreeStructure_OnSelChange(std::uint32_t node);
     void ShowNode(std::uint32_t node);
     void SelectNode(std::uint32_t node);
+    void SelectPageEnd(std::uint32_t node);
+    void TellOfViewer();
     void TellFailure(const FileFailure& failure);
     void PlacePanes();
     void DragTreeDivider(int position);
     void DragPreviewDivider(int position);
     void DragHexDivider(int position);
     void ShowCounters();
+    void ShowProgress();
 
     ShellState& state_;
     QString path_;
     std::unique_ptr<Document> document_;
+    Labels analysisTexts_;  // of the last run
     FlyTree* flyTreeStructure_;
     PropertyPane* txtProperties_;
     Divider *imgDivider_, *imgDivider2_, *imgDivider3_;
-    QFrame *picViewFrame_, *picHex_;  // filled by the viewers
+    PreviewPane* picViewFrame_;
+    HexPane* picHex_;
     QWidget* picStatusBar_;
     QProgressBar* pgbProgress_;
     QPushButton* cmdCancel_;
     QLabel *lblPageCount_, *lblSFCount_;
 
     int busy_ = 0;
-    bool previewOffered_ = false;
+    bool previewOffered_ = false, previewShown_ = false;
+    bool rootOpened_ = false;  // so that the first rows are seen while the run goes on
     std::int64_t progress_ = 0;
     int progressShift_ = 0;  // a progress bar counts in 31 bits
     std::int32_t lngSFCount_ = 0, lngPageCount_ = 0;

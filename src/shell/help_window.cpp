@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QShortcut>
 #include <QUrl>
 
 #include "shell/help_browser.h"
@@ -10,7 +11,8 @@ namespace folioscope {
 
 namespace {
 
-constexpr const char* kFolders[] = {"", "/../share/folioscope/help", FOLIOSCOPE_HELP_FOLDER};
+// From the program's folder.
+constexpr const char* kFolders[] = {"help", FOLIOSCOPE_INSTALLED_HELP};
 
 const char* FileName(Language language)
 {
@@ -23,12 +25,12 @@ const char* FileName(Language language)
 
 }  // namespace
 
-QString HelpFile(Language language)
+QString HelpFile(Language language) { return HelpFile(language, QCoreApplication::applicationDirPath()); }
+
+QString HelpFile(Language language, const QString& programFolder)
 {
-    for (const QString folder : kFolders) {
-        const QString base =
-            folder.startsWith('/') && !folder.startsWith("/..") ? QString() : QCoreApplication::applicationDirPath();
-        const QFileInfo file(base + folder + '/' + FileName(language));
+    for (const char* const folder : kFolders) {
+        const QFileInfo file(programFolder + '/' + folder + '/' + FileName(language));
         if (file.isFile()) return file.canonicalFilePath();
     }
     return {};
@@ -47,6 +49,7 @@ void ShowHelp(Language language, QWidget* parent)
     browser->setWindowTitle(browser->documentTitle());
     browser->setAccessibleName(browser->documentTitle());
     browser->resize(760, 820);
+    QObject::connect(new QShortcut(Qt::Key_Escape, browser), &QShortcut::activated, browser, &QWidget::close);
     browser->show();
 }
 

@@ -1,6 +1,7 @@
 // fsv: the desktop program.
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QLocale>
 
 #include <cstdio>
@@ -11,6 +12,7 @@
 #include "shell/command_line.h"
 #include "shell/frmMainWindow.h"
 #include "shell/icons.h"
+#include "shell/program_style.h"
 #include "viewers/resource_lists.h"
 
 namespace {
@@ -53,13 +55,17 @@ int main(int argc, char** argv)
     if (line.version) return std::printf("Folioscope %s\n", std::string(kVersion).c_str()) < 0 ? 1 : 0;
     QApplication application(argc, argv);
     QApplication::setApplicationName("Folioscope");
+    QApplication::setDesktopFileName("example.marrowgate.folioscope");
+    QApplication::setStyle(new ProgramStyle);
     InitResources();
     QApplication::setWindowIcon(ProgramIcon());
 
+    // The current folder doesn't stay what it is: making the folders of the lists changes it.
+    const QString file =
+        line.strStartFile.empty() ? QString() : QFileInfo(QString::fromStdString(line.strStartFile)).absoluteFilePath();
     ShellState state;
     state.numbers = NumbersOfTheLocale();
     state.settings = ReadSettings(state.store);
-    if (IsFirstStart(state.store)) WriteSettings(state.store, state.settings);
     ReadWindowState(state);
     TakeCommandLine(state, line);
     CreateResourceLists(state.store.GetAllUsersAppDir());
@@ -67,10 +73,11 @@ int main(int argc, char** argv)
     frmMainWindow window(state);
     window.PlaceWindow();
     window.show();
-    if (!line.strStartFile.empty()) window.ProcessFile(QString::fromStdString(line.strStartFile));
+    window.AskAtFirstStart();
+    if (!file.isEmpty()) window.ProcessFile(file);
     if (state.bolExtract) {
         window.close();
-        return 0;
+        return state.extractFailed ? 1 : 0;
     }
     return QApplication::exec();
 }

@@ -16,12 +16,13 @@ enum class When : std::uint8_t {
     Idle,         // there is one, and it is at rest
     Busy,         // it is at work
     HasMessages,  // there is one, and something was told of it
-    Later,        // with the viewers
+    HasPages,     // there is one, and it has pages to be looked at
+    PagesShown,   // they are looked at; otherwise the command isn't there at all
 };
 
 enum class Menu : std::uint8_t { None, File, Edit, Extras, Windows, Help };
 
-// One command: its item in a menu, its button in the toolbar, or both. A row without an action is a separator.
+// One command: its item in a menu, its button in the toolbar, or both. A row without a text is a separator.
 struct MainCommand {
     Menu menu;
     const char* item;  // object names; null: it has none

@@ -4,19 +4,23 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QDropEvent>
+#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextOption>
 
-#include "shell/access_keys.h"
+#include <algorithm>
+
 #include "shell/dropped_files.h"
 #include "shell/marked_colours.h"
 #include "shell/open_in_browser.h"
+#include "viewers/access_keys.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {
@@ -24,17 +28,41 @@ namespace folioscope {
 namespace {
 
 // In device independent pixels. Behind the last tab stop they follow each other at the usual distance.
-constexpr qreal kFirstTab = 106, kSecondTab = 269, kUsualTab = 48;
+constexpr qreal kFirstTab = 106, kSecondTab = 269, kUsualTab = 48, kTabGap = 4, kContinued = 16;
+constexpr int kHeadLines = 3;
 
 // Long values wrap under their own start, which is the first tab stop.
-QTextBlockFormat LineFormat()
+QTextBlockFormat LineFormat(qreal firstTab)
 {
     QTextBlockFormat format;
-    format.setLeftMargin(kFirstTab);
-    format.setTextIndent(-kFirstTab);
-    format.setTabPositions(
-        {QTextOption::Tab(kFirstTab, QTextOption::LeftTab), QTextOption::Tab(kSecondTab, QTextOption::LeftTab)});
+    format.setLeftMargin(firstTab);
+    format.setTextIndent(-firstTab);
+    format.setTabPositions({QTextOption::Tab(firstTab, QTextOption::LeftTab),
+                            QTextOption::Tab(std::max(kSecondTab, firstTab + kUsualTab), QTextOption::LeftTab)});
     return format;
+}
+
+// A line without a value beside it goes on nearly where it begins.
+void IndentPlainLines(QTextDocument& document, QTextBlockFormat format)
+{
+    format.setLeftMargin(kContinued);
+    format.setTextIndent(-kContinued);
+    for (QTextBlock line = document.begin(); line.isValid(); line = line.next())
+        if (!line.text().contains(QLatin1Char('\t'))) QTextCursor(line).setBlockFormat(format);
+}
+
+// The tab stop stands further right where the words of the head lines are too long for it, as in French or in a large
+// font: their values stand below each other all the same.
+qreal FirstTabFor(QStringView marked, const QFont& font)
+{
+    qreal widest = kFirstTab;
+    for (int line = 0; line < kHeadLines && !marked.isEmpty(); ++line) {
+        const qsizetype end = marked.indexOf(QLatin1Char('\n')), tab = marked.indexOf(QLatin1Char('\t'));
+        if (tab >= 0 && (end < 0 || tab < end))
+            widest = std::max(widest, QFontMetricsF(font).horizontalAdvance(marked.first(tab).toString()) + kTabGap);
+        marked = end < 0 ? QStringView() : marked.sliced(end + 1);
+    }
+    return widest;
 }
 
 // A menu entry that names the key it has in the pane.
@@ -83,11 +111,13 @@ void PropertyPane::Fill()
     next->setDefaultTextOption(document()->defaultTextOption());
     QTextCursor cursor(next);
     cursor.beginEditBlock();
-    cursor.setBlockFormat(LineFormat());
+    const QTextBlockFormat format = LineFormat(FirstTabFor(marked_, font()));
+    cursor.setBlockFormat(format);
     ForEachPiece(marked_, [&](QStringView piece, const TextLook& look) {
         if (look.colour == TextColour::Blue) link_ += piece;
         cursor.insertText(piece.toString(), FormatOf(look));
     });
+    IndentPlainLines(*next, format);
     cursor.endEditBlock();
     setDocument(next);
     verticalScrollBar()->setValue(0);

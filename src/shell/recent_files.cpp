@@ -9,7 +9,11 @@ namespace folioscope {
 
 namespace {
 
-std::string ValueName(std::size_t place) { return "LastFilesList" + std::to_string(place + 1); }
+std::string ValueName(std::size_t place)
+{
+    std::string name = "LastFilesList";
+    return name += std::to_string(place + 1);
+}
 
 std::string UpperCase(std::string_view text)
 {
@@ -64,7 +68,9 @@ void RecentFiles::Add(std::string_view path)
 std::string RecentFileCaption(std::size_t place, std::string_view path)
 {
     constexpr std::size_t kLongest = 53, kKept = 25;
-    std::string caption = "&" + std::to_string(place + 1) + ' ';
+    std::string caption = "&";
+    caption += std::to_string(place + 1);
+    caption += ' ';
     caption += path;
     const std::size_t count = CharactersIn(caption);
     if (count <= kLongest) return caption;

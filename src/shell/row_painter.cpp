@@ -176,7 +176,8 @@ void RowPainter::PaintIcon(QPainter& painter, const QRect& cell, const RowLook& 
 {
     const QIcon* icon = look.image < kNodeImages ? &icons_[static_cast<std::size_t>(look.image)] : nullptr;
     if (icon != nullptr && !icon->isNull()) {
-        icon->paint(&painter, cell, Qt::AlignCenter, QIcon::Normal, look.expanded ? QIcon::On : QIcon::Off);
+        icon->paint(&painter, cell, Qt::AlignCenter, colors.onHighlight ? QIcon::Selected : QIcon::Normal,
+                    look.expanded ? QIcon::On : QIcon::Off);
         return;
     }
     painter.save();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "base/clsSillyFunctions.h"
 #include "base/settings.h"
 #include "document/document.h"
@@ -27,8 +29,12 @@ struct ShellState {
     std::string strReloadNode;  // to be selected in the next document, with ^ between the levels
     bool bolFromFSV = false;    // another process of the program has started this one
     bool bolExtract = false;    // write the dump and end
+    bool extractFailed = false;
 
-    Labels InterfaceTexts() const { return Labels(settings.InterfaceLanguage()); }
+    // The language that is being tried out in the options, until they are closed.
+    std::optional<Language> triedLanguage;
+
+    Labels InterfaceTexts() const { return Labels(triedLanguage.value_or(settings.InterfaceLanguage())); }
 };
 
 // The window's numbers and the recent files.

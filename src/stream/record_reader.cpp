@@ -37,6 +37,13 @@ bool RecordReader::Load(std::int32_t filePosition, std::int32_t size)
     return !failure_;
 }
 
+void RecordReader::FollowWalk(const RecordReader& walk)
+{
+    strAFPFile_ = walk.strAFPFile_;
+    framing_ = walk.framing_;
+    lngFileSize_ = walk.lngFileSize_;
+}
+
 Status RecordReader::OpenAFPFile()
 {
     framing_ = {};
@@ -46,10 +53,22 @@ Status RecordReader::OpenAFPFile()
     if (!Load(1, kChunkSize)) return kFailure;
     lngProcessedBytes_ = 0;
     DetectPrefix();
+    return FindFirst();
+}
+
+Status RecordReader::GoOnOpening()
+{
+    lngProcessedBytes_ = sought_;
+    return FindFirst();
+}
+
+Status RecordReader::FindFirst()
+{
     const Status first = GetNextRecord2();
     if (first == kFailure) return kFailure;
     if (first == kNoFurtherRecord) {
         // There is nothing to go back to, and no need to look twice.
+        sought_ = lngProcessedBytes_;
         lngProcessedBytes_ = lngFileSize_;
         return kOpen;
     }

@@ -37,7 +37,7 @@ struct Framing {
 //
 // A walk is SetFile, OpenAFPFile, GetNextRecord2 until kNoFurtherRecord, CloseAFPFile. Then single records can be
 // read again: OpenAFPFileRandom, SetNextRecord, CloseAFPFile, with the framing that the walk has found. A walk
-// doesn't go on from a jump.
+// doesn't go on from a jump. While one goes on, a second reader that was told to FollowWalk reads single records.
 class RecordReader {
 public:
     static constexpr std::int32_t kChunkSize = 10'240'000;
@@ -48,9 +48,13 @@ public:
     RecordReader();
 
     void SetFile(std::string path) { strAFPFile_ = std::move(path); }
+    // Takes the file, its size and its framing from a reader that has opened it for a walk.
+    void FollowWalk(const RecordReader& walk);
     const std::string& File() const { return strAFPFile_; }
 
     Status OpenAFPFile();
+    // Goes on with the search for the first record where onScan has ended it.
+    Status GoOnOpening();
     Status GetNextRecord2();
     // The file may have changed since its bytes were read, so none of them are trusted.
     FileFailure OpenAFPFileRandom()
@@ -86,6 +90,7 @@ private:
     bool Load(std::int32_t filePosition, std::int32_t size);
     bool CanRefill() const { return std::int64_t{lngBufferFilePos_} + kChunkSize <= lngFileSize_; }
     void DetectPrefix();
+    Status FindFirst();
     void DetectDelimiter();
     bool FindRecord();
     bool SkipNoise();
@@ -108,7 +113,8 @@ private:
     std::int32_t valid_ = 0;     // bytes of the file in the buffer
     std::int32_t readable_ = 0;  // the same and the zeros behind them
     std::int32_t nextPause_ = 0;
-    bool astray_ = false;  // the buffer's bytes aren't those that its file position tells
+    std::int32_t sought_ = 0;  // bytes that the search for the first record has passed
+    bool astray_ = false;      // the buffer's bytes aren't those that its file position tells
 };
 
 }  // namespace folioscope

@@ -294,6 +294,94 @@ measure_texts() {  # LINES
     rm "$texts" "$descriptors"
 }
 
+# ------------------------------------------------------------------------------------------ window
+
+desktop_rows=()
+
+goal() {  # NAME FIGURE UNIT LIMIT
+    judge "$2 <= $4"
+    desktop_rows+=("$1|$(calc "$2" 4) $3|<= $4 $3|$verdict")
+}
+
+note() {  # NAME FIGURE UNIT
+    desktop_rows+=("$1|$(calc "$2" 4) $3||")
+}
+
+# Runs a program without a screen and keeps what it printed in `printed`.
+printed=""
+off_screen() {  # COMMAND...
+    printed=$(QT_QPA_PLATFORM=offscreen "$@" 2>"$folder/errors") || die "$1 failed: $(tail -n 3 "$folder/errors")"
+}
+
+figure_of() {  # NAME: of window_bench
+    awk -v name="$1" '$1 == name { print $2; found = 1 } END { exit !found }' <<<"$printed" || die "no figure $1"
+}
+
+# The main window: its run against one without a window, and what a user waits for.
+measure_window() {  # FILE
+    local file=$1 smaller texts name
+    say "window, $(size_name "$(stat -c %s "$file")") of statements"
+    smaller=$(input searched $((100 * MB / divisor)))
+    texts=$(input longest $((6 * MB)) --texts 500)
+    off_screen "$build/tests/bench/window_bench" "$pairs" "$file" "$smaller" "$texts"
+    rm "$smaller" "$texts"
+    name="run in the window, $(size_name "$(stat -c %s "$file")") of statements"
+    local ratio seconds headless
+    ratio=$(figure_of run-ratio) seconds=$(figure_of run-window) headless=$(figure_of run-headless)
+    judge "$ratio <= 1.25"
+    local figure
+    figure="$(calc "$ratio" 2) times the run alone ($(calc "$seconds" 2) s, $(calc "$headless" 2) s)"
+    desktop_rows+=("$name|$figure|<= 1.25|$verdict")
+    goal "from the window's first painting to that of its tree" "$(figure_of first-rows)" s 1
+    goal "longest wait of an event in a run" "$(figure_of run-wait)" s 0.1
+    goal "longest wait while all is expanded" "$(figure_of expand-wait)" s 0.1
+    goal "longest wait in a search that reads" "$(figure_of find-unread-wait)" s 0.1
+    goal "longest wait in a search of what was read" "$(figure_of find-read-wait)" s 0.1
+    goal "longest wait in a dump" "$(figure_of dump-wait)" s 0.1
+    goal "select a record, usual" "$(figure_of select-usual)" s 0.01
+    note "the slowest of 200" "$(figure_of select-usual-worst)" s
+    goal "select a record with a text of $(calc "$(figure_of select-longest-characters)" 0) characters" \
+        "$(figure_of select-longest)" s 0.06
+    note "the slowest of them" "$(figure_of select-longest-worst)" s
+}
+
+# Seconds, or with $3 megabytes, of a step in the first of the trees.
+tree_figure() {  # STEP [MB]
+    awk -v step="$1" -v unit="${2-s}" '
+        index($0, "  " step "  ") == 1 { for (i = 2; i <= NF; ++i) if ($i == unit) { print $(i - 1); found = 1; exit } }
+        END { exit !found }' <<<"$printed" || die "no figure of the tree: $1"
+}
+
+measure_tree() {
+    local nodes=$((8000000 / divisor))
+    say "tree, $nodes nodes"
+    off_screen "$build/tests/bench/tree_bench" "$nodes"
+    goal "expand all of $nodes nodes" "$(tree_figure "expand all")" s 2
+    goal "the same while the user can act" "$(tree_figure "expand all, giving way")" s 2
+    goal "memory of an expanded tree" "$(tree_figure "expand all" MB)" MB 150
+    goal "collapse all" "$(tree_figure "collapse all")" s 0.2
+    goal "select and paint a row anywhere, slowest of 100" "$(tree_figure "select and paint, slowest of 100")" s 0.05
+    goal "scroll to the end" "$(tree_figure "scroll to the end")" s 0.05
+}
+
+pane_figure() {  # TEXT: seconds, the median
+    awk -v text="$1" '
+        index($0, text "  ") == 1 { for (i = 2; i < NF; ++i) if ($i == "median") { print $(i + 1) / 1e3; found = 1 } }
+        END { exit !found }' <<<"$printed" || die "no figure of the pane: $1"
+}
+
+measure_pane() {
+    say "property pane"
+    off_screen "$build/tests/bench/pane_bench"
+    goal "show a text of 3,000 characters" "$(pane_figure usual)" s 0.01
+    goal "show a text of 65,535 characters" "$(pane_figure longest)" s 0.06
+    goal "the same as a single line" "$(pane_figure "one line")" s 0.06
+    goal "the same with another look at each word" "$(pane_figure mixed)" s 0.06
+}
+
+# Not built: there is no desktop program either.
+has_window() { [[ -x $build/tests/bench/window_bench ]]; }
+
 # ------------------------------------------------------------------------------------------- main
 
 check_tools() {
@@ -325,6 +413,14 @@ print_memory() {
     for line in "${memory_rows[@]}"; do row "$line"; done
 }
 
+print_desktop() {
+    local line
+    echo
+    row Desktop Figure Goal Held
+    row --- --- --- ---
+    for line in "${desktop_rows[@]}"; do row "$line"; done
+}
+
 measure_statements() {
     local run dump largest smaller larger
     run=$((1000 * MB / divisor)) dump=$((200 * MB / divisor)) largest=$((2147483647 / divisor))
@@ -334,6 +430,7 @@ measure_statements() {
     measure_growth "run, $(size_name $largest) of statements" "$smaller" "$larger" 1.15
     rm "$larger"
     measure_dump "dump, $(size_name $run) of statements" "$smaller"
+    if has_window; then measure_window "$smaller"; fi
     rm "$smaller"
     smaller=$(input statements $dump)
     measure_dump "dump, $(size_name $dump) of statements" "$smaller"
@@ -373,4 +470,9 @@ measure_statements
 measure_all_texts
 measure_other_files
 print_memory
+if has_window; then
+    measure_tree
+    measure_pane
+    print_desktop
+fi
 ((missed == 0)) || exit 3

@@ -37,6 +37,10 @@ public:
         ++waysGiven;
         if (onGiveWay) onGiveWay();
     }
+    void KeepAlive() override
+    {
+        if (onKeepAlive) onKeepAlive();
+    }
     void OperationEnds() override { calls.emplace_back("ends"); }
     void RunFinished() override { calls.emplace_back("finished"); }
     void PreviewOffered() override { calls.emplace_back("preview"); }
@@ -52,7 +56,7 @@ public:
     std::vector<std::int64_t> progress;
     std::vector<Box> boxes;
     int waysGiven = 0;
-    std::function<void()> onGiveWay;
+    std::function<void()> onGiveWay, onKeepAlive;
 };
 
 // Remembers what a message list wants its window to do.

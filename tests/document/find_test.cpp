@@ -158,6 +158,38 @@ TEST(Find, AStopBeforeTheSearchDoesNotCount)
     EXPECT_EQ(FindAll(*document, {"bern"}), (Nodes{4, 5, 6}));
 }
 
+TEST(Find, LetsTheWindowBePaintedWhereNoBodyIsRead)
+{
+    AfpFile file;
+    for (int i = 0; i < 30'000; ++i) file.Add("NOP", Ebcdic("note"));
+    const auto document = Analyse(file.Content(), {}, Decoders());
+    document->host.calls.clear();
+    document->host.waysGiven = 0;
+    std::vector<std::int64_t> painted;
+    document->host.onKeepAlive = [&] { painted.push_back(document->host.progress.back()); };
+    EXPECT_EQ(FindAll(*document, {"no such text"}), Nodes{});
+    EXPECT_EQ(document->host.waysGiven, 0);
+    ASSERT_GT(painted.size(), 5u);
+    std::int64_t last = NodeStore::kRoot;
+    for (const std::int64_t node : painted) {
+        EXPECT_GT(node, last);
+        EXPECT_LT(node - last, 8192);
+        last = node;
+    }
+    EXPECT_LT(30'001 - last, 8192);
+}
+
+TEST(Find, GoesOnWhenTheUserLooksAtARecordMeanwhile)
+{
+    AfpFile file;
+    for (int i = 0; i < 5; ++i) file.Add("PTX", Text("page"));
+    file.Add("NOP", Ebcdic("target"));
+    const auto document = Analyse(file.Content(), {}, Decoders());
+    document->host.onGiveWay = [&] { EXPECT_FALSE(document->Select(6)); };
+    EXPECT_EQ(FindAll(*document, {"target"}), Nodes{7});
+    EXPECT_FALSE(document->document.GetNodeContents_bolUnread(5));
+}
+
 TEST(Find, TellsOfAFileThatHasGone)
 {
     const auto document = Letter();

@@ -390,5 +390,19 @@ TEST(TextDump, AFileThatHasLostARecordFailsThere)
     EXPECT_EQ(Blocks(sink.text), Block({"\tPTX\tContent:\tFIRST"}));
 }
 
+// Long bodies take their time, also between two of the moments at which a user can stop the dump.
+TEST(TextDump, LetsTheWindowBePaintedAsItGrows)
+{
+    AfpFile file;
+    for (int i = 0; i < 100; ++i) file.Add("PTX", Ebcdic(std::string(30'000, 'x')));
+    const auto doc = Analyse(file.Content(), {}, TestPorts());
+    doc->host.waysGiven = 0;
+    int painted = 0;
+    doc->host.onKeepAlive = [&] { ++painted; };
+    EXPECT_GT(Dump(*doc).size(), 3'000'000u);
+    EXPECT_EQ(doc->host.waysGiven, 0);
+    EXPECT_GE(painted, 10);
+}
+
 }  // namespace
 }  // namespace folioscope

@@ -31,15 +31,6 @@ struct FieldBench {
 
 const Element kBegin = Element::Literal(Key::BeginSDF, "X");
 
-struct WordCase {
-    Key key;
-    std::string_view label;
-    struct {
-        int value;
-        std::string_view word;
-    } words[30];
-};
-
 // clang-format off
 constexpr WordCase kWords[] = {
     {Key::RelRes, "Tile resolution", {{1, "Equals image resolution"}, {2, "Half of image resolution"}}},
@@ -84,29 +75,14 @@ constexpr WordCase kWords[] = {
 };
 // clang-format on
 
-std::string WordOf(const WordCase& row, int value)
-{
-    for (const auto& [known, word] : row.words)
-        if (known == value && !word.empty()) return std::string(word);
-    return {};
-}
-
 TEST(FieldWords, AreToldOrUnknown)
 {
     FieldBench bench;
     for (const WordCase& row : kWords)
-        for (int value = 0; value < 256; ++value) {
-            const std::string text = bench.Text({kBegin, Element::Byte(row.key, static_cast<std::uint8_t>(value))});
-            const std::string head = "X: " + std::string(row.label) + ": ", word = WordOf(row, value);
-            if (!word.empty()) {
-                EXPECT_EQ(text, head + word + '\n');
-                EXPECT_EQ(bench.walk.bench.witness.heard, Lines{});
-                continue;
-            }
-            const std::string fault = "Unknown (" + std::to_string(value) + ')';
-            EXPECT_EQ(text, head + "<red>" + fault + "</red>\n");
-            EXPECT_EQ(bench.walk.bench.witness.heard, (Lines{"Message IPD-" + head + fault, "Invalid"}));
-        }
+        ExpectWords(row, "IPD", [&](const Element& element) -> ShownWord {
+            const std::string text = bench.Text({kBegin, element});
+            return {text, bench.walk.bench.witness.heard};
+        });
 }
 
 TEST(FieldWords, ThatAreUnknownAreToldOfTheirField)

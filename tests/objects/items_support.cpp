@@ -32,6 +32,13 @@ std::string KeyIn(const std::string& line)
     return line.substr(from, line.find(' ', from) - from);
 }
 
+std::string WordOf(const WordCase& row, int value)
+{
+    for (const auto& [known, word] : row.words)
+        if (known == value && !word.empty()) return std::string(word);
+    return {};
+}
+
 }  // namespace
 
 ItemWalk::ItemWalk(const AfpFile& file, Language language, NumberStyle style, const InputPages& pages)
@@ -108,6 +115,23 @@ void ExpectFault(std::string_view field, std::string_view pieces, std::string_vi
     ExpectShown(shown.items, shown.text, expected);
     EXPECT_EQ(shown.record, std::vector<std::string>{});
     EXPECT_EQ(shown.heard, (std::vector<std::string>{"Message " + std::string(message), "Invalid"}));
+}
+
+void ExpectWords(const WordCase& row, std::string_view origin, const ShowWord& show)
+{
+    for (int value = 0; value < 256; ++value) {
+        const ShownWord shown = show(Element::Byte(row.key, static_cast<std::uint8_t>(value)));
+        const std::string head = "X: " + std::string(row.label) + ": ", word = WordOf(row, value);
+        if (!word.empty()) {
+            EXPECT_EQ(shown.text, head + word + '\n');
+            EXPECT_EQ(shown.heard, std::vector<std::string>{});
+            continue;
+        }
+        const std::string fault = "Unknown (" + std::to_string(value) + ')';
+        EXPECT_EQ(shown.text, head + "<red>" + fault + "</red>\n");
+        EXPECT_EQ(shown.heard,
+                  (std::vector<std::string>{"Message " + std::string(origin) + '-' + head + fault, "Invalid"}));
+    }
 }
 
 Bytes Chained(std::string_view pieces)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,6 +43,26 @@ std::string KeysOf(const ShownItems& shown);
 void ExpectItems(std::string_view field, std::string_view pieces, std::string_view expected);
 // The same for a record of which one fault is told.
 void ExpectFault(std::string_view field, std::string_view pieces, std::string_view message, std::string_view expected);
+
+// The words of a key, one for each value that has one.
+struct WordCase {
+    Key key;
+    std::string_view label;
+    struct {
+        int value;
+        std::string_view word;
+    } words[30];
+};
+
+// What a bench shows of one Element behind the one that begins an item by the name of X.
+struct ShownWord {
+    std::string text;
+    std::vector<std::string> heard;
+};
+using ShowWord = std::function<ShownWord(const Element&)>;
+
+// Holds the lines of all 256 values of a key against the words: a value that has none is a fault of `origin`.
+void ExpectWords(const WordCase& row, std::string_view origin, const ShowWord& show);
 
 // One control sequence with its prefix and the length that it needs; the pieces begin with its function byte.
 Bytes Sequence(std::string_view pieces);

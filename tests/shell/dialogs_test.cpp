@@ -6,10 +6,9 @@
 #include <QTest>
 
 #include "base/version.h"
-#include "shell/access_keys.h"
 #include "shell/frmFind.h"
 #include "shell/frmInformation.h"
-#include "shell/window_checks.h"
+#include "support/window_checks.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {
@@ -136,23 +135,6 @@ private Q_SLOTS:
                 QCOMPARE(keys.removeDuplicates(), 0);
             }
         }
-    }
-
-    void AccessKeysAreGivenWhereNoneIs()
-    {
-        QWidget window;
-        const auto button = [&](const char* text) { return new QPushButton(QString::fromUtf8(text), &window); };
-        auto* const first = button("Open");
-        auto* const second = button("&Open all");
-        auto* const third = button("O && P");
-        auto* const fourth = button("Öo");
-        auto* const fifth = button("An o");
-        GiveAccessKeys(window);
-        QCOMPARE(second->text(), QStringLiteral("&Open all"));
-        QCOMPARE(first->text(), QStringLiteral("O&pen"));
-        QCOMPARE(third->text(), QStringLiteral("O && P"));  // both of its letters are taken
-        QCOMPARE(fourth->text(), QString::fromUtf8("Öo"));
-        QCOMPARE(fifth->text(), QStringLiteral("&An o"));
     }
 };
 

@@ -227,6 +227,30 @@ private Q_SLOTS:
         QCOMPARE(view.NodeAt({50, 1}), top);
     }
 
+    void aSelectedRowWithTheKeyboardShowsItsIconForThat()
+    {
+        Pages tree;
+        View view(tree.tree);
+        const auto pixmap = [](const QColor& color) {
+            QPixmap filled(16, 16);
+            filled.fill(color);
+            return filled;
+        };
+        view.SetIcons([&](int) {
+            QIcon icon(pixmap(Qt::cyan));
+            icon.addPixmap(pixmap(Qt::magenta), QIcon::Selected);
+            return icon;
+        });
+        view.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&view));
+        view.setFocus();
+        view.Select(kRoot);
+        QVERIFY(HasColor(view.Image(), view.RowRect(kRoot), Qt::magenta));
+        view.clearFocus();
+        QVERIFY(!HasColor(view.Image(), view.RowRect(kRoot), Qt::magenta));
+        QVERIFY(HasColor(view.Image(), view.RowRect(kRoot), Qt::cyan));
+    }
+
     void keepsTheSelectedRowInSight()
     {
         std::mt19937 random(9);

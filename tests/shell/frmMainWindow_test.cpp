@@ -1,6 +1,7 @@
 // The frame with real files: what can be chosen when, and what becomes of files, drops, dumps and second documents.
 
 #include <QAction>
+#include <QDir>
 #include <QDropEvent>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -15,22 +16,23 @@
 
 #include <memory>
 
+#include "shell/command_line.h"
 #include "shell/divider.h"
 #include "shell/fly_tree.h"
 #include "shell/frmMainWindow.h"
 #include "shell/frmParserWindow.h"
 #include "shell/icons.h"
 #include "shell/main_commands.h"
-#include "shell/window_checks.h"
 #include "support/afp_builder.h"
 #include "support/temporary_file.h"
+#include "support/window_checks.h"
 
 namespace folioscope {
 namespace {
 
 using namespace test;
 
-constexpr char kNoDocument[] = "mnuFileOpen mnuFileExit mnuHelpHelp mnuHelpWebsite mnuHelpAbout";
+constexpr char kNoDocument[] = "mnuFileOpen mnuFileExit mnuExtrasOptions mnuHelpHelp mnuHelpWebsite mnuHelpAbout";
 
 Bytes Letter()
 {
@@ -85,6 +87,8 @@ private Q_SLOTS:
     void keepsRecentFiles();
     void opensASecondDocumentInAnotherProcess();
     void reloadsInAnotherProcess();
+    void theOtherProcessFindsAPathWithoutBlanks_data();
+    void theOtherProcessFindsAPathWithoutBlanks();
     void aDropOpensEachFile();
     void closingADocumentEndsItsCommands();
     void aRunCanBeCancelled();
@@ -93,9 +97,12 @@ private Q_SLOTS:
     void savesTheDumpBesideTheFile();
     void asksBeforeItReplacesADump();
     void expandsAndCollapsesTheTree();
+    void aWindowThatIsNotMaximisedShowsItsPanes();
+    void theStatusBarKeepsItsHeight();
     void dividersStayInTheirBounds();
     void tellsOfAFileThatIsNotThere();
     void extractsADumpWhenItWasStartedForThat();
+    void tellsThatADumpCouldNotBeExtracted();
     void menusHaveNoTwoEqualAccessKeys_data();
     void menusHaveNoTwoEqualAccessKeys();
     void eachControlHasAnAccessibleName();
@@ -158,10 +165,9 @@ void FrmMainWindowTest::withADocumentOffersItsCommands()
     for (const char* const name :
          {"mnuFileClose", "mnuFileReload", "mnuFileSaveDump", "mnuFileSaveDumpAs", "mnuEditFind", "mnuEditFindNext",
           "mnuEditTreeExpand", "mnuEditTreeCollapse", "mnuWindowsCascade", "mnuWindowsTileVertical",
-          "mnuWindowsTileHorizontal", "mnuWindowsCloseAll", "tlbExtractResource"})
+          "mnuWindowsTileHorizontal", "mnuWindowsCloseAll", "mnuExtrasOptions", "tlbPreview", "tlbExtractResource"})
         QVERIFY2(Command(name)->isEnabled(), name);
-    for (const char* const name : {"mnuWindowsMessages", "tlbCancel", "tlbPreview"})
-        QVERIFY2(!Command(name)->isEnabled(), name);
+    for (const char* const name : {"mnuWindowsMessages", "tlbCancel"}) QVERIFY2(!Command(name)->isEnabled(), name);
 }
 
 void FrmMainWindowTest::showsTheDocumentThatItOpens()
@@ -225,6 +231,37 @@ void FrmMainWindowTest::reloadsInAnotherProcess()
     window_->ProcessFile(path);
     QCOMPARE(Tree().Selected(), 6u);
     QCOMPARE(state_->strReloadNode, "");
+}
+
+void FrmMainWindowTest::theOtherProcessFindsAPathWithoutBlanks_data()
+{
+    QTest::addColumn<uint>("node");
+    QTest::addColumn<uint>("found");
+    QTest::newRow("Document^BDT") << 3u << 3u;
+    QTest::newRow("Document^Page 1^PTX, cut at its blank") << 7u << NodeStore::kRoot;
+}
+
+void FrmMainWindowTest::theOtherProcessFindsAPathWithoutBlanks()
+{
+    QFETCH(uint, node);
+    QFETCH(uint, found);
+    state_->settings.ShowBESF = 0;  // its names follow a blank
+    const QString path = File("a.afp", Letter());
+    window_->ProcessFile(path);
+    Tree().Select(node);
+    window_->mnuFileReload();
+    QTRY_VERIFY(window_->findChild<FlyTree*>() == nullptr);
+
+    std::vector<std::string> arguments = {"fsv"};
+    for (const QString& argument : started_.at(0)) arguments.push_back(argument.toStdString());
+    std::vector<const char*> argv;
+    for (const std::string& argument : arguments) argv.push_back(argument.c_str());
+    const CommandLine line = ParseCommandLine(JoinArguments(static_cast<int>(argv.size()), argv.data()));
+    QVERIFY(line.bolFromFSV);
+    QCOMPARE(QString::fromStdString(line.strStartFile), path);
+    state_->strReloadNode = line.strReloadNode;
+    window_->ProcessFile(path);
+    QCOMPARE(Tree().Selected(), found);
 }
 
 void FrmMainWindowTest::aDropOpensEachFile()
@@ -326,6 +363,33 @@ void FrmMainWindowTest::expandsAndCollapsesTheTree()
     QVERIFY(!Tree().IsExpanded(2) && !Tree().IsExpanded(NodeStore::kRoot));
 }
 
+void FrmMainWindowTest::aWindowThatIsNotMaximisedShowsItsPanes()
+{
+    window_->ProcessFile(File("a.afp", Letter()));
+    const auto* const document = window_->ActiveDocument();
+    const auto isRoomy = [&] { return Tree().height() > 200 && document->width() > 600 && document->width() < 1000; };
+    document->parentWidget()->showNormal();
+    QVERIFY(isRoomy());
+    document->parentWidget()->showMaximized();
+    QCOMPARE(document->width(), 1000);
+    window_->mnuWindowsCascade();
+    QVERIFY(isRoomy());
+    window_->mnuWindowsTileVertical();
+    QVERIFY(Tree().height() > 300);
+}
+
+void FrmMainWindowTest::theStatusBarKeepsItsHeight()
+{
+    window_->ProcessFile(File("a.afp", Letter()));
+    auto* const bar = window_->findChild<QWidget*>("picStatusBar");
+    auto* const cancel = window_->findChild<QPushButton*>("cmdCancel");
+    const int idle = bar->sizeHint().height();
+    QVERIFY(cancel->isHidden());
+    QCOMPARE(bar->height(), idle);
+    cancel->show();
+    QCOMPARE(bar->sizeHint().height(), idle);
+}
+
 void FrmMainWindowTest::dividersStayInTheirBounds()
 {
     window_->ProcessFile(File("a.afp", Letter()));
@@ -366,6 +430,19 @@ void FrmMainWindowTest::extractsADumpWhenItWasStartedForThat()
     Answer answer;
     window_->ProcessFile(path);
     QVERIFY(ReadWhole(path.toStdString() + ".txt").find("Dear reader..") != std::string::npos);
+    QVERIFY(answer.texts.isEmpty());  // nobody is there to answer
+    QVERIFY(!state_->extractFailed);
+}
+
+void FrmMainWindowTest::tellsThatADumpCouldNotBeExtracted()
+{
+    state_->bolExtract = true;
+    const QString path = File("a.afp", Letter());
+    QVERIFY(QDir().mkdir(path + ".txt"));
+    Answer answer;
+    window_->ProcessFile(path);
+    QCOMPARE(answer.texts.size(), 1);
+    QVERIFY(state_->extractFailed);
 }
 
 void FrmMainWindowTest::menusHaveNoTwoEqualAccessKeys_data()

@@ -14,7 +14,7 @@
 #include <QtTest/qtestspontaneevent.h>
 
 #include "shell/marked_colours.h"
-#include "shell/window_checks.h"
+#include "support/window_checks.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {

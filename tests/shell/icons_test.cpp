@@ -20,6 +20,7 @@ constexpr const char* kToolbar[] = {"open",     "close",     "reload",    "textd
                                     "preview",  "messages",  "cascade",   "tile_vertical", "tile_horizontal",
                                     "help",     "cancel",    "turn_left", "turn_right",    "fit_width",
                                     "fit_page", "zoom_out",  "zoom_100",  "zoom_in",       "print"};
+constexpr const char* kSigns[] = {"sign_critical", "sign_information", "sign_question", "sign_warning"};
 constexpr int kTreeImages = 12;
 constexpr QColor kLight(0xEF, 0xEF, 0xEF), kDark(0x2B, 0x2D, 0x30);
 
@@ -32,6 +33,7 @@ QList<NamedIcon> AllIcons()
 {
     QList<NamedIcon> icons;
     for (const char* const name : kToolbar) icons.append({name, ToolbarIcon(name)});
+    for (const char* const name : kSigns) icons.append({name, ToolbarIcon(name)});
     for (int image = 0; image < kTreeImages; ++image)
         icons.append({QStringLiteral("tree %1").arg(image), TreeIcon(image)});
     icons.append({"program", ProgramIcon()});
@@ -110,6 +112,7 @@ private Q_SLOTS:
         QSet<QString> drawn, named{"folioscope.svg"};
         for (const QString& file : QDir(":/icons").entryList()) drawn.insert(file);
         for (const char* const name : kToolbar) named.insert(QStringLiteral("%1.svg").arg(name));
+        for (const char* const name : kSigns) named.insert(QStringLiteral("%1.svg").arg(name));
         for (int image = 0; image < kTreeImages; ++image)
             named.insert(QStringLiteral("tree_%1.svg").arg(image, 2, 10, QLatin1Char('0')));
         QCOMPARE(drawn, named);

@@ -15,7 +15,7 @@
 #include "analysis/render/property_text.h"
 #include "shell/marked_colours.h"
 #include "shell/open_in_browser.h"
-#include "shell/window_checks.h"
+#include "support/window_checks.h"
 #include "viewers/qt_text.h"
 
 namespace folioscope {
@@ -163,6 +163,32 @@ private Q_SLOTS:
         for (int line = 1; line < value.layout()->lineCount(); ++line)
             QCOMPARE(LeftOf(pane, value.position() + value.layout()->lineAt(line).textStart()), 106);
         QCOMPARE(pane.horizontalScrollBar()->maximum(), 0);
+    }
+
+    void ALongLineWithoutATabGoesOnNearItsBegin()
+    {
+        PropertyPane pane(kEnglish);
+        pane.resize(300, 300);
+        pane.show();
+        pane.ShowPropertyText("a\tb\r\n" + std::string(100, 'w') + "\r\nc\td\r\n");
+        const QTextBlock sentence = pane.document()->findBlockByNumber(1);
+        QVERIFY(sentence.layout()->lineCount() > 1);
+        QCOMPARE(LeftOf(pane, sentence.position()), 0);
+        QCOMPARE(LeftOf(pane, sentence.position() + sentence.layout()->lineAt(1).textStart()), 16);
+        for (const int line : {0, 2})
+            QCOMPARE(LeftOf(pane, pane.document()->findBlockByNumber(line).position() + 2), 106);
+    }
+
+    void AWordThatIsTooLongForTheFirstTabMovesItForAllLines()
+    {
+        PropertyPane pane(kEnglish);
+        pane.resize(500, 300);
+        pane.show();
+        pane.ShowPropertyText("a\tb\r\n" + std::string(30, 'w') + ":\tc\r\nd\te\r\n");
+        const int first = LeftOf(pane, 2);
+        QVERIFY(first > 106);
+        QCOMPARE(LeftOf(pane, pane.document()->findBlockByNumber(1).position() + 32), first);
+        QCOMPARE(LeftOf(pane, pane.document()->findBlockByNumber(2).position() + 2), first);
     }
 
     void TheColoursCanBeReadOnDarkAndLightGround()

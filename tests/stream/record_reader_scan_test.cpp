@@ -190,5 +190,25 @@ TEST_F(RecordReaderPauses, CanEndTheOpening)
     EXPECT_LE(pauses, 2);
 }
 
+TEST_F(RecordReaderPauses, LetTheOpeningGoOn)
+{
+    reader_.SetFile(folder_.File("pause.afp", Zeros(9'000'000) + Record(16) + "\r\n" + Record(16) + "\r\n"));
+    bool paused = false;
+    int pauses = 0;
+    reader_.onScan = [&](std::int32_t) { return paused = true, ++pauses, false; };
+    ASSERT_EQ(reader_.OpenAFPFile(), kOpen);
+    while (paused) {
+        paused = false;
+        ASSERT_EQ(reader_.GoOnOpening(), kOpen);
+    }
+    EXPECT_GT(pauses, 100);
+    EXPECT_EQ(reader_.Frame().strLinefeed, "\r\n");
+    reader_.onScan = nullptr;
+    EXPECT_EQ(reader_.GetNextRecord2(), kRecord);
+    EXPECT_EQ(reader_.FieldLength(), 16);
+    EXPECT_EQ(reader_.GetNextRecord2(), kRecord);
+    EXPECT_EQ(reader_.GetNextRecord2(), kNoFurtherRecord);
+}
+
 }  // namespace
 }  // namespace folioscope::test

@@ -84,6 +84,15 @@ void clsAFPFunctions::InitializeProcessing2(std::string strAFPFile, const InputP
     lastTextPage_ = nullptr;
 }
 
+void clsAFPFunctions::FollowWalk(const clsAFPFunctions& walk)
+{
+    reader_.FollowWalk(walk.reader_);
+    ports_ = walk.ports_;
+    Pages = walk.Pages;
+    CodePages.Reset(walk.CurrentCodePage());
+    Fonts = walk.Fonts;
+}
+
 Status clsAFPFunctions::OpenAFPFile()
 {
     list_.ClearCollections();

@@ -61,6 +61,9 @@ public:
                               bool CPAutoDetect);
     void InitializeProcessing2(std::string strAFPFile, const InputPages& pages);
     void SetPorts(const DecodePorts& ports) { ports_ = ports; }
+    // For one that reads single records again while another one walks the same file. It takes over what bodies depend
+    // on, as it is in the walk at this moment, but for CarryOverBytes, which follows its own readings.
+    void FollowWalk(const clsAFPFunctions& walk);
 
     // Each clears the Elements first. OpenAFPFile adds FileSize, RDW, FiveAByte, Linefeed; a failure adds ErrorNumber
     // and ErrorDescription and gives kFailure.

@@ -32,6 +32,14 @@ void AppendCellSize(Renderer& renderer, std::string& out, const Element& element
         renderer.AppendNumber(out, element, Picture::Grouped);
 }
 
+// Returns the width in inches.
+double TakeNormalLineWidth(Renderer& renderer, const Element& element)
+{
+    const double inches = static_cast<double>(element.number) / kNormalWidthUnits;
+    renderer.lines.NormalLineWidth = static_cast<float>(inches);
+    return inches;
+}
+
 }  // namespace
 
 void AppendInches(Renderer& renderer, std::string& out, double inches)
@@ -93,18 +101,14 @@ void RenderArcParameter(Renderer& renderer, const Element& element)
 
 void RenderNormalLineWidth(Renderer& renderer, const Element& element)
 {
-    const double inches = static_cast<double>(element.number) / kNormalWidthUnits;
-    renderer.lines.NormalLineWidth = static_cast<float>(inches);
-    AppendInches(renderer, renderer.BeginLine(L("Normal line width")), inches);
+    AppendInches(renderer, renderer.BeginLine(L("Normal line width")), TakeNormalLineWidth(renderer, element));
     renderer.EndLine();
 }
 
 void RenderNormalLineWidthOfDescriptor(Renderer& renderer, const Element& element)
 {
-    const double inches = static_cast<double>(element.number) / kNormalWidthUnits;
-    renderer.lines.NormalLineWidth = static_cast<float>(inches);
     std::string& out = renderer.BeginLine(L("Normal line width"));
-    AppendInches(renderer, out, inches);
+    AppendInches(renderer, out, TakeNormalLineWidth(renderer, element));
     out += " (";
     renderer.AppendValue(out, element);
     out += "/1440)";
