@@ -100,7 +100,7 @@ std::vector<FlyTree::Shown> FlyTree::RowsInSight() const
     std::uint32_t node = Top();
     if (node == 0) return shown;
     const NodeStore& nodes = tree_->Nodes();
-    const auto rows = static_cast<std::size_t>(viewport()->height() / painter_.RowHeight() + 1);
+    const auto rows = static_cast<std::size_t>(viewport()->height() / painter_.RowHeight()) + 1;
     std::uint32_t depth = DepthOf(nodes, node);
     while (true) {
         shown.push_back({node, depth});

@@ -80,7 +80,7 @@ QPixmap Draw(const QByteArray& svg, const QSize& size, bool faint)
     QSvgRenderer renderer(svg);
     const int side = std::min(size.width(), size.height());
     QPainter painter(&drawn);
-    renderer.render(&painter, QRectF((size.width() - side) / 2, (size.height() - side) / 2, side, side));
+    renderer.render(&painter, QRect((size.width() - side) / 2, (size.height() - side) / 2, side, side));
     if (faint) {  // the renderer sets the painter's opacity for itself
         painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
         painter.fillRect(drawn.rect(), QColor::fromRgbF(0, 0, 0, kDisabledOpacity));

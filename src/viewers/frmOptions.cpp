@@ -187,7 +187,7 @@ void frmOptions::SetAccessKeys()
 QList<QWidget*> frmOptions::PartsOf(const QWidget& page) const
 {
     QList<QWidget*> parts = page.findChildren<QWidget*>();
-    std::ranges::stable_partition(parts, [](QWidget* part) { return !AccessKeysOf({part}).isEmpty(); });
+    std::stable_partition(parts.begin(), parts.end(), [](QWidget* part) { return !AccessKeysOf({part}).isEmpty(); });
     return parts;
 }
 

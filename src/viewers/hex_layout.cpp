@@ -78,7 +78,8 @@ std::size_t RoomFor(HexColumn column, std::size_t bytes, int bytesPerLine)
 {
     if (bytes == 0) return 0;
     const auto last = static_cast<std::int32_t>(bytes - 1);
-    return static_cast<std::size_t>(PlaceOf(column, last, bytesPerLine) + ShapeOf(column).charactersPerByte);
+    const std::int32_t end = PlaceOf(column, last, bytesPerLine) + ShapeOf(column).charactersPerByte;
+    return static_cast<std::size_t>(end);
 }
 
 }  // namespace
